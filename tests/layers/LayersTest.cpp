@@ -1,0 +1,126 @@
+// The storeys of the house: a file includes only what stands below it or in its own storey, and
+// within the storey of the independent rooms only what stands in its own room.
+#include "IncludeGraph.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+namespace {
+
+using corvane::tests::includedNames;
+using corvane::tests::IncludeGraph;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+struct Place {
+    int storey;
+    std::string room;
+};
+
+bool startsWithOneOf(const std::string& text, std::initializer_list<std::string_view> prefixes) {
+    for (const auto prefix : prefixes) {
+        if (text.starts_with(prefix)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Where a file of the tree stands; nothing for one that this table does not know.
+std::optional<Place> placeOf(const std::string& file) {
+    if (file.starts_with("platform/")) {
+        return Place{1, "utils"};
+    }
+    if (file.starts_with("host/")) {
+        return Place{5, "host"};
+    }
+    if (startsWithOneOf(file, {"tools/", "examples/"})) {
+        return Place{6, "tools"};
+    }
+    std::string name = file;
+    for (const std::string prefix : {"include/corvane/workbench/", "src/"}) {
+        if (name.starts_with(prefix)) {
+            name = name.substr(prefix.size());
+            break;
+        }
+    }
+    if (name == "export.hpp") {
+        return Place{1, "export"};
+    }
+    const std::string room = name.substr(0, name.find('/'));
+    if (room == "i18n" || room == "data" || room == "io") {
+        return Place{2, room};
+    }
+    if (room == "bindings" || room == "json" || room == "chrono") {
+        return Place{3, room};
+    }
+    if (startsWithOneOf(name, {"process/Event.", "process/Task.", "model/ElementCategory.",
+                               "model/Attribute."})) {
+        return Place{3, "descriptors"};
+    }
+    if (room == "model" || room == "process" || room == "config" || room == "skill") {
+        return Place{4, "elements"};
+    }
+    return std::nullopt;
+}
+
+const IncludeGraph& graph() {
+    static const IncludeGraph instance(
+        CORVANE_SOURCE_DIR, {"platform", "include", "src", "host", "tools", "examples"},
+        {"include", "platform/corvane-utils/include", "host/include"});
+    return instance;
+}
+
+TEST(Layers, TheReaderOfIncludesFindsBothFormsAndNothingElse) {
+    EXPECT_THAT(includedNames("#include <a/b.hpp>\n  #  include \"c.hpp\" // why\n// #include "
+                              "<no.hpp>\n#define include\nint x;\n"),
+                ElementsAre("a/b.hpp", "c.hpp"));
+}
+
+TEST(Layers, EveryFileHasItsStorey) {
+    for (const auto& [file, targets] : graph().edges()) {
+        EXPECT_TRUE(placeOf(file)) << file << " stands in no known folder";
+    }
+}
+
+TEST(Layers, TheGraphHasFilesAndIncludes) {
+    std::size_t count = 0;
+    for (const auto& [file, targets] : graph().edges()) {
+        count += targets.size();
+    }
+    EXPECT_GT(graph().edges().size(), 80U);
+    EXPECT_GT(count, 200U);
+}
+
+TEST(Layers, AFileIncludesOnlyItsOwnStoreyAndThoseBelow) {
+    for (const auto& [file, targets] : graph().edges()) {
+        const auto from = placeOf(file);
+        for (const auto& target : targets) {
+            const auto to = placeOf(target);
+            if (from && to) {
+                EXPECT_LE(to->storey, from->storey) << file << " includes " << target;
+            }
+        }
+    }
+}
+
+TEST(Layers, TheIndependentRoomsDoNotKnowEachOther) {
+    for (const auto& [file, targets] : graph().edges()) {
+        const auto from = placeOf(file);
+        for (const auto& target : targets) {
+            const auto to = placeOf(target);
+            if (from && to && from->storey == 3 && to->storey == 3) {
+                EXPECT_EQ(to->room, from->room) << file << " includes " << target;
+            }
+        }
+    }
+}
+
+TEST(Layers, NoHeaderIncludesItselfInACircle) {
+    EXPECT_THAT(graph().findCircle(), IsEmpty());
+}
+
+} // namespace
