@@ -44,3 +44,12 @@ function(corvane_set_warnings target)
         endif()
     endif()
 endfunction()
+
+# Windows has no search path for libraries but the program's own folder.
+if(MINGW AND CMAKE_CROSSCOMPILING)
+    foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${name}"
+                        OUTPUT_VARIABLE place OUTPUT_STRIP_TRAILING_WHITESPACE)
+        file(COPY "${place}" DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" FOLLOW_SYMLINK_CHAIN)
+    endforeach()
+endif()

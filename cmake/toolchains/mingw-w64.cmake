@@ -1,0 +1,31 @@
+# Cross build for 64-bit Windows with mingw-w64 GCC (posix threads); programs run in Wine.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+
+# Header-only packages come through a folder of links: the system's include folder would bring the
+# host's C library along.
+set(links "${CMAKE_BINARY_DIR}/header-links")
+foreach(header IN ITEMS boost tl CLI)
+    if(EXISTS "/usr/include/${header}" AND NOT EXISTS "${links}/include/${header}")
+        file(MAKE_DIRECTORY "${links}/include")
+        file(CREATE_LINK "/usr/include/${header}" "${links}/include/${header}" SYMBOLIC)
+    endif()
+endforeach()
+foreach(package IN ITEMS tl-expected:tl::expected CLI11:CLI11::CLI11)
+    string(REGEX MATCH "^([^:]+):(.*)$" _ "${package}")
+    file(WRITE "${links}/lib/cmake/${CMAKE_MATCH_1}/${CMAKE_MATCH_1}-config.cmake"
+        "if(NOT TARGET ${CMAKE_MATCH_2})
+    add_library(${CMAKE_MATCH_2} INTERFACE IMPORTED)
+    set_target_properties(${CMAKE_MATCH_2} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES \"${links}/include\")
+endif()\n")
+endforeach()
+
+set(CMAKE_FIND_ROOT_PATH "${links}" /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
