@@ -58,3 +58,71 @@ run_lint() {
     fi
     shellcheck -x dev cmake/dev/*.sh .ci/run
 }
+
+run_windows() {
+    export WINEPREFIX=$checkout/build/windows/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+    build windows
+    say "Starting Wine"
+    wine wineboot --init >build/windows/wineboot.log 2>&1
+    ctest_of windows ${1:+-R "$1"}
+}
+
+# Compiles everything with the other compiler and in the other language mode; running the tests once
+# with the other compiler's code is enough.
+run_clang() {
+    build clang
+    ctest_of clang
+    build clang-cxx23
+    build gcc-cxx23
+}
+
+run_fuzz() {
+    local seconds=${1:-60} target name
+    build fuzz
+    for target in "$checkout"/build/fuzz/bin/*_fuzz; do
+        name=$(basename "$target")
+        say "$name for $seconds s"
+        mkdir -p "build/fuzz/corpus/$name"
+        "$target" -max_total_time="$seconds" -print_final_stats=1 "build/fuzz/corpus/$name" \
+            "fuzz/corpus/$name" 2>"build/fuzz/$name.log" || {
+            tail -n 40 "build/fuzz/$name.log"
+            fail "$name found something"
+        }
+        grep -E 'number_of_executed_units' "build/fuzz/$name.log"
+    done
+}
+
+run_bench() {
+    local program
+    build bench
+    for program in "$checkout"/build/bench/bin/*_benchmark; do
+        say "$(basename "$program")"
+        "$program" "$@"
+    done
+}
+
+run_coverage() {
+    build coverage
+    find build/coverage -name '*.gcda' -delete
+    ctest_of coverage
+    gcovr --root . --filter src/ --filter host/ --filter platform/ --exclude-throw-branches --print-summary \
+        build/coverage --html-details build/coverage/report.html
+}
+
+run_docs() {
+    cd "$checkout"
+    mkdir -p build/docs
+    doxygen docs/Doxyfile
+}
+
+# A project of its own finds the installed package, as a skill author's would.
+run_package() {
+    local place=build/package
+    build tools
+    rm -rf "$place"
+    cmake --install build/tools --prefix "$place/installed" >/dev/null
+    cmake -S tests/package -B "$place/build" -G Ninja -DCMAKE_PREFIX_PATH="$checkout/$place/installed" \
+        -DCMAKE_BUILD_TYPE=Release >/dev/null
+    cmake --build "$place/build"
+    "$place/build/consumer"
+}
