@@ -1,0 +1,13 @@
+#pragma once
+
+// Selects the constructor of a key that comes from no configuration file.
+
+namespace corvane::workbench::config {
+
+struct WithoutLocationTag {
+    explicit constexpr WithoutLocationTag() = default;
+};
+
+inline constexpr WithoutLocationTag kWithoutLocation{};
+
+} // namespace corvane::workbench::config

@@ -1,0 +1,58 @@
+#pragma once
+
+// What a generic user interface needs to show and edit a property of an element or sub-element
+// whose class it does not know. A value; its callables and its handle refer to the element or
+// sub-element that described it and must not be used after that has ended or moved.
+
+#include <corvane/utils/core/function_ref.hpp>
+#include <corvane/workbench/bindings/PropertyHandle.hpp>
+
+#include <tl/expected.hpp>
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace corvane::workbench::skill {
+
+class SubElement;
+
+struct EditableProperty {
+    /// The kind of control that suits the property.
+    enum class Editor {
+        Text,
+        Number,
+        Choice,
+        Duration,
+        TimeStamp,
+        Uuid,
+        Reference,
+        SubElementList
+    };
+
+    /// Stable name (UTF-8), as in configuration files and on command lines.
+    std::string name;
+    std::wstring displayName;
+    Editor editor = Editor::Text;
+    /// State, visibility and change notifications of the property.
+    bindings::PropertyHandle property;
+    /// The value's text as shown to the user.
+    std::function<std::wstring()> text;
+    /// Stores the value that the text stands for and publishes the property, or leaves the value
+    /// alone and says why the text is no value. Empty: the property is read only.
+    std::function<tl::expected<void, std::wstring>(std::wstring_view)> setText;
+    /// The texts to choose from, for Editor::Choice.
+    std::vector<std::wstring> choices;
+    /// Visits the rows in their order, for Editor::SubElementList.
+    std::function<void(const corvane::utils::core::function_ref<void(SubElement&)>&)>
+        forEachSubElement;
+    /// Inserts a default row before the given index (the row count: at the end), and publishes
+    /// the property; or says why not. Empty: the list is fixed.
+    std::function<tl::expected<void, std::wstring>(std::size_t)> insertSubElement;
+    /// Removes the row at the given index and publishes the property; or says why not.
+    std::function<tl::expected<void, std::wstring>(std::size_t)> removeSubElement;
+};
+
+} // namespace corvane::workbench::skill
