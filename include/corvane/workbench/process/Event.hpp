@@ -1,0 +1,46 @@
+#pragma once
+
+// Describes an event of an element: something that happens there, to which others can react.
+//
+// A plain value. The predefined events are constants of the library and ready before the code of
+// any skill runs.
+#include <corvane/utils/core/Flags.hpp>
+#include <corvane/workbench/export.hpp>
+#include <corvane/workbench/io/Direction.hpp>
+
+#include <string>
+#include <string_view>
+
+namespace corvane::workbench::process {
+
+class CORVANE_WORKBENCH_EXPORT Event {
+public:
+    static const Event kChanged;
+    static const Event kConnected;
+    static const Event kDisconnected;
+
+    /// `name` is UTF-8 and is the name by which reference keys name the event; `ioDirections` are
+    /// the directions in which the event is relevant.
+    Event(std::string&& name, corvane::utils::core::Flags<io::Direction> ioDirections) noexcept;
+
+    Event(const Event& other);
+    Event(Event&& other) noexcept;
+    Event& operator=(const Event& other);
+    Event& operator=(Event&& other) noexcept;
+    ~Event();
+
+    [[nodiscard]] std::string_view name() const& noexcept;
+
+    /// A temporary event gives up its name.
+    [[nodiscard]] std::string&& name() && noexcept;
+
+    [[nodiscard]] corvane::utils::core::Flags<io::Direction> ioDirections() const noexcept;
+
+    friend bool operator==(const Event&, const Event&) = default;
+
+private:
+    std::string _name;
+    corvane::utils::core::Flags<io::Direction> _ioDirections;
+};
+
+} // namespace corvane::workbench::process

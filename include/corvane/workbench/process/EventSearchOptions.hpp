@@ -1,0 +1,17 @@
+#pragma once
+
+// How the events of an element are enumerated and looked up.
+namespace corvane::workbench::process {
+
+struct EventSearchOptions {
+    /// Attributes count as events, through their change events.
+    bool includeAttributes = false;
+
+    /// Passed unchanged to the element's own walk over its events, which alone knows its meaning.
+    bool forwardedFlag = false;
+
+    friend constexpr bool operator==(const EventSearchOptions&,
+                                     const EventSearchOptions&) noexcept = default;
+};
+
+} // namespace corvane::workbench::process
