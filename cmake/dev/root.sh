@@ -23,10 +23,11 @@ in_root() {
     shift
     mkdir -p "$directory$checkout" "$directory$cache/ccache" "$cache/ccache"
     # shellcheck disable=SC2016 # expanded by the inner shell
-    unshare --mount --propagation private bash -c '
+    unshare --mount --propagation unchanged bash -c '
         set -e
         root=$1 checkout=$2 ccache=$3
         shift 3
+        mount --make-rprivate / 2>/dev/null || true # fails where / is itself such a root: private already
         mount -t proc proc "$root/proc"
         mount --rbind /dev "$root/dev"
         mount --bind "$checkout" "$root$checkout"
@@ -61,7 +62,8 @@ $(echo g++ "$(missing_packages "$@" | tr '\n' ' ')")"
         mv "$root.new.$$" "$root"
     fi
     local packages
-    packages=$(in_root "$root" bash -c '. cmake/dev/setup.sh; missing_packages "$@"' setup "$@" | tr '\n' ' ')
+    packages=$(in_root "$root" bash -c '. cmake/dev/setup.sh; missing_packages "$@"' setup "$@" | tr '\n' ' ') ||
+        fail "the Debian 13 root in $root cannot be entered (unshare and mount must be allowed)"
     if [ -n "$packages" ]; then
         say "Installing in the Debian 13 root: $packages"
         # shellcheck disable=SC2016 # expanded by the inner shell
@@ -105,8 +107,9 @@ fresh() {
     git clone -q "$checkout" "$place/root/src"
     say "A clean clone: ./dev demo, ./dev test, and how long the set-up takes when nothing is missing"
     # shellcheck disable=SC2016 # expanded by the inner shell
-    unshare --mount --propagation private bash -c '
+    unshare --mount --propagation unchanged bash -c '
         set -e
+        mount --make-rprivate / 2>/dev/null || true
         mount -t proc proc "$1/proc"
         mount --rbind /dev "$1/dev"
         chroot "$1" /usr/bin/env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin bash -c "
