@@ -40,7 +40,7 @@ in_root() {
 prepare_root() {
     [ "$(id -u)" -eq 0 ] || fail "the compiler of this system is too old (GCC 13 or newer is needed), and a Debian 13 root
 can only be prepared by root. Run ./dev as root once, or install g++-13 or newer and its packages:
-$(echo g++ "$(missing_packages "$@" | tr '\n' ' ')")"
+$(missing_packages "$@" | tr "\n" " ")"
     mkdir -p "$cache"
     exec 9>"$cache/lock"
     flock 9
