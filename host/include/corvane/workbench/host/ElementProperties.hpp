@@ -1,0 +1,35 @@
+#pragma once
+
+// Carries the error counts of an element and of everything below it up to the root: the container
+// around the property controller of the skill's half and around the containers of the children.
+
+#include <corvane/workbench/bindings/PropertyContainer.hpp>
+
+namespace corvane::workbench::host {
+
+class ElementNode;
+
+/// Part of an ElementNode; does not outlive it.
+class ElementProperties final : public bindings::PropertyContainer {
+public:
+    explicit ElementProperties(ElementNode& element) noexcept : _element(element) {}
+    ElementProperties(const ElementProperties&) = delete;
+    ElementProperties& operator=(const ElementProperties&) = delete;
+    ~ElementProperties() override = default;
+
+    [[nodiscard]] ElementNode& element() const noexcept { return _element; }
+
+private:
+    void forEachSubPropertyContainer(
+        const corvane::utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,
+        bool includeInvisible) override;
+    void forEachLocalCrossReference(const corvane::utils::core::function_ref<
+                                        void(bindings::CrossReferenceController&)>& callback,
+                                    bool includeInvisible) override;
+    [[nodiscard]] std::size_t localPropertyErrorCount() const override;
+    void propertyNotificationRaised(const bindings::PropertyId& property) override;
+
+    ElementNode& _element;
+};
+
+} // namespace corvane::workbench::host

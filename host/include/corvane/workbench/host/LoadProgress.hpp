@@ -1,0 +1,27 @@
+#pragma once
+
+// How far the loading of a configuration has come.
+
+#include <cstdint>
+
+namespace corvane::workbench::host {
+
+struct LoadProgress {
+    enum class Stage {
+        /// Reading the file; counted in bytes.
+        Reading,
+        /// Making elements; counted in elements, their total is not known before the end.
+        Elements,
+        /// Resolving the references; counted in references.
+        References,
+        /// Configuring the properties and counting their errors; counted in elements.
+        Properties
+    };
+
+    Stage stage = Stage::Reading;
+    std::uint64_t done = 0;
+    /// 0 when unknown.
+    std::uint64_t total = 0;
+};
+
+} // namespace corvane::workbench::host

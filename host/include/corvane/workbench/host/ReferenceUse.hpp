@@ -1,0 +1,20 @@
+#pragma once
+
+// One reference to an element, seen from the element.
+
+namespace corvane::workbench::model::internal {
+class BasicElementReference;
+}
+
+namespace corvane::workbench::host {
+
+class ElementNode;
+
+struct ReferenceUse {
+    /// The element that holds the reference; null for a reference that no configured property of
+    /// an element in the tree holds.
+    const ElementNode* owner = nullptr;
+    const model::internal::BasicElementReference* reference = nullptr;
+};
+
+} // namespace corvane::workbench::host
