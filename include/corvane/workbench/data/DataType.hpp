@@ -4,6 +4,7 @@
 //
 // A small value that the library carries through unchanged; it knows the named constants below,
 // all other pairs are defined by the runtime.
+
 #include <cstdint>
 
 namespace corvane::workbench::data {

@@ -3,6 +3,7 @@
 // The order in which names are shown to the user.
 //
 // An empty function object for std::sort and ordered containers; all objects are alike.
+
 #include <corvane/workbench/export.hpp>
 
 #include <compare>

@@ -1,6 +1,7 @@
 #pragma once
 
 // Words for the user about a JSON text that could not be read.
+
 #include <corvane/workbench/export.hpp>
 
 #include <exception>

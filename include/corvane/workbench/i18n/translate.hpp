@@ -1,6 +1,7 @@
 #pragma once
 
 // The one way of a user-visible text of the library or of a skill to the user interface.
+
 #include <corvane/workbench/export.hpp>
 
 #include <string>

@@ -5,6 +5,7 @@
 // The enumeration belongs to the runtime; the library stores and copies its values and never
 // interprets them. A set of directions is a corvane::utils::core::Flags<Direction>, in which
 // reading is the bit of value 1 and writing the bit of value 2.
+
 #include <cstdint>
 
 namespace corvane::workbench::io {

@@ -5,6 +5,7 @@
 // A plain value. It begins with its change event, the event that fires when the attribute's value
 // changes, so that it can be handed out as that event without a copy. The predefined attributes
 // are constants of the library and ready before the code of any skill runs.
+
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/data/DataType.hpp>
 #include <corvane/workbench/export.hpp>

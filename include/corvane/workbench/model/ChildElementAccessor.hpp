@@ -6,6 +6,7 @@
 // number of children is read once, when the accessor is made: an accessor made before children
 // came or went keeps reporting the old number, and children beyond the new one must not be asked
 // for.
+
 #include <corvane/workbench/export.hpp>
 
 #include <compare>

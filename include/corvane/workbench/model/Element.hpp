@@ -8,6 +8,7 @@
 //
 // An element of the category CustomElement is one of unknown structure: it passes every category
 // check, counts as a data point, and answers for every member name.
+
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/core/function_ref.hpp>

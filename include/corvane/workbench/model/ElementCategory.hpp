@@ -5,6 +5,7 @@
 // The numbers are fixed: they are bit positions in sets of categories. CustomElement is last on
 // purpose; an element of that category passes every category check and has every member that is
 // asked of it (see Element).
+
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/export.hpp>
 

@@ -4,6 +4,7 @@
 //
 // A plain value. The predefined events are constants of the library and ready before the code of
 // any skill runs.
+
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/io/Direction.hpp>

@@ -1,6 +1,7 @@
 #pragma once
 
 // How the events of an element are enumerated and looked up.
+
 namespace corvane::workbench::process {
 
 struct EventSearchOptions {

@@ -4,6 +4,7 @@
 //
 // A plain value. The predefined task is a constant of the library and ready before the code of any
 // skill runs.
+
 #include <corvane/workbench/export.hpp>
 
 #include <string>

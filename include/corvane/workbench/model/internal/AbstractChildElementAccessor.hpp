@@ -4,6 +4,7 @@
 //
 // The workbench implements it for each element and hands out ChildElementAccessors of it, which
 // must not outlive it.
+
 #include <corvane/workbench/export.hpp>
 
 #include <cstddef>

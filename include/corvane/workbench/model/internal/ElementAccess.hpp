@@ -2,6 +2,7 @@
 
 // The door to the private operations of model::Element, for the workbench and for this library;
 // not for skills.
+
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/model/Element.hpp>
 

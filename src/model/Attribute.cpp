@@ -1,0 +1,73 @@
+#include <corvane/workbench/model/Attribute.hpp>
+
+#include <utility>
+
+namespace corvane::workbench::model {
+
+namespace {
+
+using Directions = corvane::utils::core::Flags<io::Direction>;
+
+constexpr auto kUndefined = Attribute::Access::Undefined;
+
+} // namespace
+
+const Attribute Attribute::kName("name", kUndefined, data::DataType::kText, {});
+const Attribute Attribute::kUuid("UUID", kUndefined, data::DataType::kUuid, {});
+const Attribute Attribute::kType("type", kUndefined, data::DataType::kText, {});
+const Attribute Attribute::kCategory("category", kUndefined, data::DataType::kElementCategory, {});
+const Attribute Attribute::kPrimaryKey("key", kUndefined, data::DataType::kText, {});
+const Attribute Attribute::kDeviceState("deviceState", kUndefined, data::DataType::kDeviceState,
+                                        io::Direction::Read);
+const Attribute Attribute::kQuality("quality", kUndefined, data::DataType::kQuality,
+                                    io::Direction::Read);
+const Attribute Attribute::kSourceTime("sourceTime", kUndefined, data::DataType::kTimeStamp,
+                                       io::Direction::Read);
+const Attribute Attribute::kUpdateTime("updateTime", kUndefined, data::DataType::kTimeStamp,
+                                       io::Direction::Read);
+const Attribute Attribute::kChangeTime("changeTime", kUndefined, data::DataType::kTimeStamp,
+                                       io::Direction::Read);
+const Attribute Attribute::kWriteTime("writeTime", kUndefined, data::DataType::kTimeStamp,
+                                      io::Direction::Write);
+
+const std::string Attribute::kAddress = "address";
+const std::string Attribute::kChannel = "channel";
+const std::string Attribute::kDataType = "dataType";
+const std::string Attribute::kLength = "length";
+const std::string Attribute::kOffset = "offset";
+
+Attribute::Attribute(std::string&& name, Access access, data::DataType dataType,
+                     Directions ioDirections) noexcept
+    : _changeEvent(std::move(name), ioDirections), _access(access), _dataType(dataType) {}
+
+Attribute::Attribute(const Attribute& other) = default;
+Attribute::Attribute(Attribute&& other) noexcept = default;
+Attribute& Attribute::operator=(const Attribute& other) = default;
+Attribute& Attribute::operator=(Attribute&& other) noexcept = default;
+Attribute::~Attribute() = default;
+
+std::string_view Attribute::name() const noexcept { return _changeEvent.name(); }
+
+Directions Attribute::ioDirections() const noexcept { return _changeEvent.ioDirections(); }
+
+Attribute::Access Attribute::access() const noexcept { return _access; }
+
+const data::DataType& Attribute::dataType() const noexcept { return _dataType; }
+
+const process::Event& Attribute::changeEvent() const& noexcept { return _changeEvent; }
+
+process::Event&& Attribute::changeEvent() && noexcept { return std::move(_changeEvent); }
+
+bool Attribute::setAccess(Access access) noexcept {
+    return std::exchange(_access, access) != access;
+}
+
+bool Attribute::setDataType(const data::DataType& dataType) noexcept {
+    if (_dataType == dataType) {
+        return false;
+    }
+    _dataType = dataType;
+    return true;
+}
+
+} // namespace corvane::workbench::model

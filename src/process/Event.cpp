@@ -1,0 +1,28 @@
+#include <corvane/workbench/process/Event.hpp>
+
+#include <utility>
+
+namespace corvane::workbench::process {
+
+const Event Event::kChanged("changed", io::Direction::Read);
+const Event Event::kConnected("connected", {});
+const Event Event::kDisconnected("disconnected", {});
+
+Event::Event(std::string&& name, corvane::utils::core::Flags<io::Direction> ioDirections) noexcept
+    : _name(std::move(name)), _ioDirections(ioDirections) {}
+
+Event::Event(const Event& other) = default;
+Event::Event(Event&& other) noexcept = default;
+Event& Event::operator=(const Event& other) = default;
+Event& Event::operator=(Event&& other) noexcept = default;
+Event::~Event() = default;
+
+std::string_view Event::name() const& noexcept { return _name; }
+
+std::string&& Event::name() && noexcept { return std::move(_name); }
+
+corvane::utils::core::Flags<io::Direction> Event::ioDirections() const noexcept {
+    return _ioDirections;
+}
+
+} // namespace corvane::workbench::process
