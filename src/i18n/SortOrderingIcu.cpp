@@ -55,9 +55,8 @@ public:
             _long.resize(count);
             target = _long.data();
         }
-        std::ranges::transform(text.substr(0, count), target, [](wchar_t codeUnit) {
-            return static_cast<UChar>(codeUnit);
-        });
+        std::ranges::transform(text.substr(0, count), target,
+                               [](wchar_t codeUnit) { return static_cast<UChar>(codeUnit); });
         _data = target;
     }
     IcuText(const IcuText&) = delete;
@@ -75,8 +74,7 @@ private:
 
 } // namespace
 
-std::weak_ordering SortOrdering::operator()(std::wstring_view left,
-                                            std::wstring_view right) const {
+std::weak_ordering SortOrdering::operator()(std::wstring_view left, std::wstring_view right) const {
     static const Collator collator = makeCollator();
     if (!collator) {
         return std::weak_ordering::equivalent;

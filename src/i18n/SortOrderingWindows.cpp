@@ -18,13 +18,12 @@ const wchar_t* start(std::wstring_view text) noexcept {
 
 } // namespace
 
-std::weak_ordering SortOrdering::operator()(std::wstring_view left,
-                                            std::wstring_view right) const {
-    const int result = ::CompareStringEx(
-        LOCALE_NAME_USER_DEFAULT,
-        LINGUISTIC_IGNORECASE | NORM_LINGUISTIC_CASING | SORT_DIGITSASNUMBERS, start(left),
-        comparedLength(left.size()), start(right), comparedLength(right.size()), nullptr, nullptr,
-        0);
+std::weak_ordering SortOrdering::operator()(std::wstring_view left, std::wstring_view right) const {
+    const int result =
+        ::CompareStringEx(LOCALE_NAME_USER_DEFAULT,
+                          LINGUISTIC_IGNORECASE | NORM_LINGUISTIC_CASING | SORT_DIGITSASNUMBERS,
+                          start(left), comparedLength(left.size()), start(right),
+                          comparedLength(right.size()), nullptr, nullptr, 0);
     switch (result) {
     case CSTR_LESS_THAN:
         return std::weak_ordering::less;

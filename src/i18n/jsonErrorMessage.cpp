@@ -3,15 +3,18 @@
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/i18n/translate.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <format>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <regex>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace corvane::workbench::i18n {
 
@@ -67,7 +70,8 @@ std::optional<LocatedError> findLocation(std::string_view message) {
         const std::string_view digits = line.substr(number, numberEnd - number);
         const std::string_view behind = line.substr(numberEnd, std::string_view("):").size());
 
-        const std::string piece = std::string(kStart).append(significantDigits(digits)).append(behind);
+        const std::string piece =
+            std::string(kStart).append(significantDigits(digits)).append(behind);
         std::smatch match;
         if (std::regex_search(piece, match, locationPattern())) {
             const std::size_t text = endOfRun(line, numberEnd + behind.size(), kBlanks);

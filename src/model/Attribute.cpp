@@ -46,17 +46,29 @@ Attribute& Attribute::operator=(const Attribute& other) = default;
 Attribute& Attribute::operator=(Attribute&& other) noexcept = default;
 Attribute::~Attribute() = default;
 
-std::string_view Attribute::name() const noexcept { return _changeEvent.name(); }
+std::string_view Attribute::name() const noexcept {
+    return _changeEvent.name();
+}
 
-Directions Attribute::ioDirections() const noexcept { return _changeEvent.ioDirections(); }
+Directions Attribute::ioDirections() const noexcept {
+    return _changeEvent.ioDirections();
+}
 
-Attribute::Access Attribute::access() const noexcept { return _access; }
+Attribute::Access Attribute::access() const noexcept {
+    return _access;
+}
 
-const data::DataType& Attribute::dataType() const noexcept { return _dataType; }
+const data::DataType& Attribute::dataType() const noexcept {
+    return _dataType;
+}
 
-const process::Event& Attribute::changeEvent() const& noexcept { return _changeEvent; }
+const process::Event& Attribute::changeEvent() const& noexcept {
+    return _changeEvent;
+}
 
-process::Event&& Attribute::changeEvent() && noexcept { return std::move(_changeEvent); }
+process::Event&& Attribute::changeEvent() && noexcept {
+    return std::move(_changeEvent);
+}
 
 bool Attribute::setAccess(Access access) noexcept {
     return std::exchange(_access, access) != access;

@@ -35,9 +35,8 @@ const internal::AbstractChildElementAccessor& ChildElementAccessor::emptyCollect
 
 const Element& ChildElementAccessor::at(std::size_t index) const {
     if (index >= _count) {
-        throw std::out_of_range(
-            std::format("child element index {} out of range: element has {} child(ren)", index,
-                        _count));
+        throw std::out_of_range(std::format(
+            "child element index {} out of range: element has {} child(ren)", index, _count));
     }
     return _collection->elementAt(index);
 }
@@ -46,19 +45,29 @@ const Element& ChildElementAccessor::operator[](std::size_t index) const {
     return _collection->elementAt(index);
 }
 
-const Element& ChildElementAccessor::front() const { return _collection->elementAt(0); }
+const Element& ChildElementAccessor::front() const {
+    return _collection->elementAt(0);
+}
 
-const Element& ChildElementAccessor::back() const { return _collection->elementAt(_count - 1); }
+const Element& ChildElementAccessor::back() const {
+    return _collection->elementAt(_count - 1);
+}
 
-ChildElementAccessor::Iterator ChildElementAccessor::begin() const noexcept { return {*this, 0}; }
+ChildElementAccessor::Iterator ChildElementAccessor::begin() const noexcept {
+    return {*this, 0};
+}
 
 ChildElementAccessor::Iterator ChildElementAccessor::end() const noexcept {
     return {*this, _count};
 }
 
-ChildElementAccessor::Iterator ChildElementAccessor::cbegin() const noexcept { return begin(); }
+ChildElementAccessor::Iterator ChildElementAccessor::cbegin() const noexcept {
+    return begin();
+}
 
-ChildElementAccessor::Iterator ChildElementAccessor::cend() const noexcept { return end(); }
+ChildElementAccessor::Iterator ChildElementAccessor::cend() const noexcept {
+    return end();
+}
 
 std::reverse_iterator<ChildElementAccessor::Iterator>
 ChildElementAccessor::rbegin() const noexcept {
@@ -74,8 +83,7 @@ ChildElementAccessor::crbegin() const noexcept {
     return rbegin();
 }
 
-std::reverse_iterator<ChildElementAccessor::Iterator>
-ChildElementAccessor::crend() const noexcept {
+std::reverse_iterator<ChildElementAccessor::Iterator> ChildElementAccessor::crend() const noexcept {
     return rend();
 }
 

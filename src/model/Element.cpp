@@ -15,13 +15,13 @@ namespace {
 
 using corvane::utils::core::function_ref;
 
-constexpr auto kBothDirections = {io::Direction::Read, io::Direction::Write};
+constexpr corvane::utils::core::Flags<io::Direction> kBothDirections = {io::Direction::Read,
+                                                                        io::Direction::Write};
 
 // `format` has a place for the element's key and one for the member's name.
 std::wstring missingMember(const Element& element, std::string_view format,
                            std::string_view memberName) {
-    const std::wstring translated =
-        i18n::translate("corvane::workbench::model::Element", format);
+    const std::wstring translated = i18n::translate("corvane::workbench::model::Element", format);
     const std::wstring key = corvane::utils::string::toWide(element.primaryKey());
     const std::wstring name = corvane::utils::string::toWide(memberName);
     return std::vformat(translated, std::make_wformat_args(key, name));
@@ -31,22 +31,34 @@ std::wstring missingMember(const Element& element, std::string_view format,
 
 Element::~Element() = default;
 
-corvane::utils::string::BasicStringView<char> Element::name() const { return nameImpl(); }
+corvane::utils::string::BasicStringView<char> Element::name() const {
+    return nameImpl();
+}
 
-std::string Element::primaryKey() const { return primaryKeyImpl(); }
+std::string Element::primaryKey() const {
+    return primaryKeyImpl();
+}
 
-corvane::utils::core::Uuid Element::uuid() const { return uuidImpl(); }
+corvane::utils::core::Uuid Element::uuid() const {
+    return uuidImpl();
+}
 
-std::wstring Element::type() const { return typeImpl(); }
+std::wstring Element::type() const {
+    return typeImpl();
+}
 
-ElementCategory Element::category() const { return categoryImpl(); }
+ElementCategory Element::category() const {
+    return categoryImpl();
+}
 
 bool Element::checkCategory(corvane::utils::core::Flags<ElementCategory> categories) const {
     const ElementCategory own = category();
     return own == ElementCategory::CustomElement || categories.test(own);
 }
 
-bool Element::isDataPoint() const { return checkCategory(ElementCategory::DataPoint); }
+bool Element::isDataPoint() const {
+    return checkCategory(ElementCategory::DataPoint);
+}
 
 bool Element::isSkillDataPoint() const {
     const ElementCategory own = category();
@@ -59,17 +71,25 @@ bool Element::isA(const skill::Element::Class& elementClass) const {
     return skillElement != nullptr && &skillElement->elementClass() == &elementClass;
 }
 
-bool Element::isInvisibleRoot() const { return isInvisibleRootImpl(); }
+bool Element::isInvisibleRoot() const {
+    return isInvisibleRootImpl();
+}
 
 const Element* Element::findAncestor(const skill::Element::Class& elementClass) const {
     return findAncestorImpl(elementClass);
 }
 
-bool Element::isDescendentOf(const Element& other) const { return isDescendentOfImpl(other); }
+bool Element::isDescendentOf(const Element& other) const {
+    return isDescendentOfImpl(other);
+}
 
-const Element* Element::parentElement() const { return parentElementImpl(); }
+const Element* Element::parentElement() const {
+    return parentElementImpl();
+}
 
-ChildElementAccessor Element::childElements() const { return childElementsImpl(); }
+ChildElementAccessor Element::childElements() const {
+    return childElementsImpl();
+}
 
 const Element* Element::childElement(std::string_view name) const {
     return childElementImpl(name);
@@ -109,8 +129,8 @@ tl::expected<Attribute, std::wstring> Element::attribute(std::string_view name) 
         return Attribute(std::string(name), Attribute::Access::ReadWrite, data::DataType::kAny,
                          kBothDirections);
     }
-    return tl::unexpected(missingMember(
-        *this, "the element “{}” does not have an attribute named “{}”", name));
+    return tl::unexpected(
+        missingMember(*this, "the element “{}” does not have an attribute named “{}”", name));
 }
 
 tl::expected<process::Event, std::wstring>
@@ -131,12 +151,12 @@ Element::event(std::string_view name, process::EventSearchOptions options) const
     if (category() == ElementCategory::CustomElement) {
         return process::Event(std::string(name), kBothDirections);
     }
-    return tl::unexpected(missingMember(
-        *this,
-        options.includeAttributes
-            ? "the element “{}” does not have an event or attribute named “{}”"
-            : "the element “{}” does not have an event named “{}”",
-        name));
+    return tl::unexpected(
+        missingMember(*this,
+                      options.includeAttributes
+                          ? "the element “{}” does not have an event or attribute named “{}”"
+                          : "the element “{}” does not have an event named “{}”",
+                      name));
 }
 
 tl::expected<process::Task, std::wstring> Element::task(std::string_view name) const {
@@ -166,7 +186,9 @@ skill::Element& Element::getSkillElement() & {
     return *skillElement;
 }
 
-skill::Element&& Element::getSkillElement() && { return std::move(getSkillElement()); }
+skill::Element&& Element::getSkillElement() && {
+    return std::move(getSkillElement());
+}
 
 const skill::Element& Element::getSkillElement() const& {
     const skill::Element* const skillElement = getSkillElement(std::nothrow);
@@ -176,14 +198,19 @@ const skill::Element& Element::getSkillElement() const& {
     return *skillElement;
 }
 
-const skill::Element&& Element::getSkillElement() const&& { return std::move(getSkillElement()); }
+const skill::Element&& Element::getSkillElement() const&& {
+    return std::move(getSkillElement());
+}
 
-skill::Element* Element::getSkillElement(std::nothrow_t) { return skillElementImpl(); }
+skill::Element* Element::getSkillElement(std::nothrow_t) {
+    return skillElementImpl();
+}
 
-const skill::Element* Element::getSkillElement(std::nothrow_t) const { return skillElementImpl(); }
+const skill::Element* Element::getSkillElement(std::nothrow_t) const {
+    return skillElementImpl();
+}
 
-bool Element::forEachAttributeInternal(
-    const function_ref<bool(const Attribute&)>& callback) const {
+bool Element::forEachAttributeInternal(const function_ref<bool(const Attribute&)>& callback) const {
     return forEachAttributeImpl(callback);
 }
 

@@ -11,23 +11,10 @@ namespace {
 // In the order of the enumerators. All texts are ASCII, so that a character has the same value in
 // every character type.
 constexpr std::array<std::string_view, 17> kNames = {
-    "root element",
-    "element group",
-    "data point",
-    "timer",
-    "execution track",
-    "execution pipeline",
-    "device",
-    "sub device",
-    "device group",
-    "data point group",
-    "transaction",
-    "microservice",
-    "AI",
-    "data storage",
-    "external interface",
-    "special purpose",
-    "custom element",
+    "root element",       "element group",  "data point", "timer",        "execution track",
+    "execution pipeline", "device",         "sub device", "device group", "data point group",
+    "transaction",        "microservice",   "AI",         "data storage", "external interface",
+    "special purpose",    "custom element",
 };
 constexpr std::string_view kUnknown = "unknown";
 

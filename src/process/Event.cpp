@@ -17,9 +17,13 @@ Event& Event::operator=(const Event& other) = default;
 Event& Event::operator=(Event&& other) noexcept = default;
 Event::~Event() = default;
 
-std::string_view Event::name() const& noexcept { return _name; }
+std::string_view Event::name() const& noexcept {
+    return _name;
+}
 
-std::string&& Event::name() && noexcept { return std::move(_name); }
+std::string&& Event::name() && noexcept {
+    return std::move(_name);
+}
 
 corvane::utils::core::Flags<io::Direction> Event::ioDirections() const noexcept {
     return _ioDirections;

@@ -14,6 +14,8 @@ Task& Task::operator=(const Task& other) = default;
 Task& Task::operator=(Task&& other) noexcept = default;
 Task::~Task() = default;
 
-std::string_view Task::name() const noexcept { return _name; }
+std::string_view Task::name() const noexcept {
+    return _name;
+}
 
 } // namespace corvane::workbench::process
