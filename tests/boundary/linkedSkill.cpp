@@ -1,0 +1,7 @@
+#include "linkedSkill.hpp"
+
+namespace corvane::tests {
+
+std::string_view linkedSkillId() { return BOUNDARY_SKILL_ID; }
+
+} // namespace corvane::tests
