@@ -1,0 +1,91 @@
+// What a property controller keeps for one property.
+#pragma once
+
+#include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/bindings/internal/PropertyFunction.hpp>
+#include <corvane/workbench/bindings/internal/SubscriptionMap.hpp>
+#include <corvane/workbench/export.hpp>
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace corvane::workbench::bindings {
+
+/// One property's configuration, cached state and visibility, and subscribers. Copied and moved
+/// whole; a source that was moved from has no subscribers. It knows nothing of other properties:
+/// the publications return what the controller has to do beyond this property.
+///
+/// Each publication also exists with a parameter `changes`, to which changes are added as soon as
+/// they are made, so that they are known when a callback throws.
+class CORVANE_WORKBENCH_EXPORT PropertyController::PropertyData {
+public:
+    /// Replaces functions, raised properties, sub-container and cross reference. Calls nothing.
+    /// Nothing has changed when an exception is thrown.
+    void configure(PropertyConfiguration&& configuration, const ClassifiedProperty& classified);
+
+    /// Records a dependent, merging it with the record that exists for the same property.
+    void addDependentProperty(Dependency&& dependency);
+
+    /// Computes visibility and state after the configuration and tells subscribers what changed.
+    void postConfigure();
+
+    PropertyChanges publish(Action action, std::size_t index);
+    PropertyChanges publishValue(Action action, std::size_t index);
+    PropertyChanges publishState();
+    PropertyChanges publishVisibility();
+    PropertyChanges publishDependency(const Dependency& dependency);
+
+    void publish(Action action, std::size_t index, PropertyChanges& changes);
+    void publishState(PropertyChanges& changes);
+    void publishVisibility(PropertyChanges& changes);
+    void publishDependency(const Dependency& dependency, PropertyChanges& changes);
+
+    /// Stores the callbacks under a new id, which is returned. Ids grow in the order of
+    /// subscription and are unique in the process.
+    std::size_t subscribe(SubscriptionCallbacks&& callbacks);
+    /// An unknown id is ignored.
+    void unsubscribe(std::size_t id) noexcept;
+
+    [[nodiscard]] const PropertyState& state() const noexcept { return cachedState_; }
+    [[nodiscard]] bool visible() const noexcept { return cachedVisibility_; }
+    [[nodiscard]] std::span<const Dependency> dependentProperties() const noexcept {
+        return dependentProperties_;
+    }
+    [[nodiscard]] std::span<const PropertyId> raisedProperties() const noexcept {
+        return raisedProperties_;
+    }
+    [[nodiscard]] PropertyContainer* subPropertyContainer() const noexcept {
+        return subPropertyContainer_;
+    }
+    [[nodiscard]] CrossReferenceController* crossReferenceController() const noexcept {
+        return crossReferenceController_;
+    }
+    /// Whether nothing is configured, nothing depends on the property and nobody is subscribed.
+    [[nodiscard]] bool empty() const noexcept;
+
+private:
+    class Publishing;
+    struct Notification;
+
+    [[nodiscard]] bool updateCachedState() const;
+    [[nodiscard]] bool updateCachedVisibility() const;
+    [[nodiscard]] bool storeVisibility(bool visible) const noexcept;
+    [[nodiscard]] bool storeState(PropertyState&& state) const noexcept;
+    void notify(const Notification& notification) const;
+
+    // The order of the fields is fixed.
+    std::uint32_t publishingFlags_ = 0;
+    mutable internal::PropertyFunction<PropertyState> stateFunction_;
+    mutable internal::PropertyFunction<bool> visibilityFunction_;
+    std::vector<Dependency> dependentProperties_;
+    std::vector<PropertyId> raisedProperties_;
+    PropertyContainer* subPropertyContainer_ = nullptr;
+    CrossReferenceController* crossReferenceController_ = nullptr;
+    internal::SubscriptionMap<std::size_t, SubscriptionCallbacks> subscriptions_;
+    mutable PropertyState cachedState_;
+    mutable bool cachedVisibility_ = true;
+};
+
+} // namespace corvane::workbench::bindings

@@ -1,0 +1,31 @@
+// A static object that stands for one property.
+#pragma once
+
+#include <corvane/workbench/bindings/PropertyId.hpp>
+
+namespace corvane::workbench::bindings {
+
+/// Names one property by its own address. Declare one static object per property:
+///
+///     static const PropertyKey kSpeed;
+///
+/// It cannot be copied, since a copy would be another property.
+class PropertyKey {
+public:
+    constexpr PropertyKey() noexcept {}
+    PropertyKey(const PropertyKey&) = delete;
+    PropertyKey& operator=(const PropertyKey&) = delete;
+    ~PropertyKey() = default;
+
+    [[nodiscard]] PropertyId id() const noexcept {
+        return PropertyId(PropertyId::kInternalConstructor, &place_);
+    }
+    /// Implicit, so that a key stands wherever an identifier is expected.
+    operator PropertyId() const noexcept { return id(); }
+
+private:
+    // Writable, so that no linker folds two keys into one read-only object.
+    mutable char place_ = 0;
+};
+
+} // namespace corvane::workbench::bindings

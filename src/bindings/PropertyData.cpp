@@ -1,0 +1,244 @@
+#include <corvane/workbench/bindings/PropertyData.hpp>
+
+#include <algorithm>
+#include <atomic>
+
+namespace corvane::workbench::bindings {
+
+namespace {
+
+constexpr std::uint32_t kValueBit = 1;
+constexpr std::uint32_t kStateBit = 2;
+constexpr std::uint32_t kVisibilityBit = 4;
+
+constinit std::atomic<std::size_t> nextSubscriptionId = 0;
+
+bool sameState(const PropertyController::PropertyState& a,
+               const PropertyController::PropertyState& b) {
+    return a.has_value() == b.has_value() && (a.has_value() || a.error() == b.error());
+}
+
+} // namespace
+
+/// Sets publishing flags for its lifetime.
+class PropertyController::PropertyData::Publishing {
+public:
+    Publishing(std::uint32_t& flags, std::uint32_t mask) noexcept : flags_{flags}, before_{flags} {
+        flags_ |= mask;
+    }
+    Publishing(const Publishing&) = delete;
+    Publishing& operator=(const Publishing&) = delete;
+    ~Publishing() { flags_ = before_; }
+
+    [[nodiscard]] bool isOutermost(std::uint32_t bit) const noexcept {
+        return (before_ & bit) == 0;
+    }
+
+private:
+    std::uint32_t& flags_;
+    const std::uint32_t before_;
+};
+
+/// What each subscriber is told.
+struct PropertyController::PropertyData::Notification {
+    enum class Value { Silent, WithoutDetails, WithDetails };
+
+    Value value = Value::Silent;
+    Action action = Action::Update;
+    std::size_t index = 0;
+    bool state = false;
+    bool visibility = false;
+};
+
+void PropertyController::PropertyData::configure(PropertyConfiguration&& configuration,
+                                                 const ClassifiedProperty& classified) {
+    std::vector<PropertyId> raised(configuration.raisedProperties.begin(),
+                                   configuration.raisedProperties.end());
+    visibilityFunction_.replace(std::move(configuration.visibility));
+    stateFunction_.replace(std::move(configuration.state));
+    raisedProperties_.swap(raised);
+    subPropertyContainer_ = classified.subPropertyContainer;
+    crossReferenceController_ = classified.crossReferenceController;
+}
+
+void PropertyController::PropertyData::addDependentProperty(Dependency&& dependency) {
+    const auto existing =
+        std::ranges::find(dependentProperties_, dependency.property, &Dependency::property);
+    if (existing == dependentProperties_.end()) {
+        dependentProperties_.push_back(std::move(dependency));
+        return;
+    }
+    existing->updatesValue |= dependency.updatesValue;
+    existing->updatesState |= dependency.updatesState;
+    existing->updatesVisibility |= dependency.updatesVisibility;
+}
+
+void PropertyController::PropertyData::postConfigure() {
+    const bool visibilityChanged =
+        storeVisibility(visibilityFunction_ ? visibilityFunction_() : true);
+    const bool stateChanged =
+        storeState(stateFunction_ && cachedVisibility_ ? stateFunction_() : PropertyState());
+    if (!visibilityChanged && !stateChanged) {
+        return;
+    }
+    const Publishing publishing(publishingFlags_, kStateBit | kVisibilityBit);
+    notify({.state = stateChanged && publishing.isOutermost(kStateBit),
+            .visibility = visibilityChanged && publishing.isOutermost(kVisibilityBit)});
+}
+
+PropertyController::PropertyChanges PropertyController::PropertyData::publish(Action action,
+                                                                              std::size_t index) {
+    PropertyChanges changes;
+    publish(action, index, changes);
+    return changes;
+}
+
+PropertyController::PropertyChanges
+PropertyController::PropertyData::publishValue(Action action, std::size_t index) {
+    const Publishing publishing(publishingFlags_, kValueBit);
+    if (publishing.isOutermost(kValueBit)) {
+        notify({.value = Notification::Value::WithDetails, .action = action, .index = index});
+    }
+    return {};
+}
+
+PropertyController::PropertyChanges PropertyController::PropertyData::publishState() {
+    PropertyChanges changes;
+    publishState(changes);
+    return changes;
+}
+
+PropertyController::PropertyChanges PropertyController::PropertyData::publishVisibility() {
+    PropertyChanges changes;
+    publishVisibility(changes);
+    return changes;
+}
+
+PropertyController::PropertyChanges
+PropertyController::PropertyData::publishDependency(const Dependency& dependency) {
+    PropertyChanges changes;
+    publishDependency(dependency, changes);
+    return changes;
+}
+
+void PropertyController::PropertyData::publish(Action action, std::size_t index,
+                                               PropertyChanges& changes) {
+    const Publishing publishing(publishingFlags_, kValueBit | kStateBit);
+    const bool stateChanged = updateCachedState();
+    changes |= {.stateChanged = stateChanged, .errorCountMayHaveChanged = stateChanged};
+    notify({.value = publishing.isOutermost(kValueBit) ? Notification::Value::WithDetails
+                                                       : Notification::Value::Silent,
+            .action = action,
+            .index = index,
+            .state = stateChanged && publishing.isOutermost(kStateBit)});
+}
+
+void PropertyController::PropertyData::publishState(PropertyChanges& changes) {
+    const Publishing publishing(publishingFlags_, kStateBit);
+    const bool stateChanged = updateCachedState();
+    changes |= {.stateChanged = stateChanged, .errorCountMayHaveChanged = stateChanged};
+    notify({.state = stateChanged && publishing.isOutermost(kStateBit)});
+}
+
+void PropertyController::PropertyData::publishVisibility(PropertyChanges& changes) {
+    if (!visibilityFunction_) {
+        return;
+    }
+    const Publishing publishing(publishingFlags_, kStateBit | kVisibilityBit);
+    if (!updateCachedVisibility()) {
+        return;
+    }
+    changes |= {.visibilityChanged = true,
+                .subPropertyVisibilityChanged = subPropertyContainer_ != nullptr};
+    const bool stateChanged = updateCachedState();
+    changes |= {.stateChanged = stateChanged, .errorCountMayHaveChanged = stateChanged};
+    notify({.state = stateChanged && publishing.isOutermost(kStateBit),
+            .visibility = publishing.isOutermost(kVisibilityBit)});
+}
+
+void PropertyController::PropertyData::publishDependency(const Dependency& dependency,
+                                                         PropertyChanges& changes) {
+    const std::uint32_t mask =
+        (dependency.updatesValue ? kValueBit : 0U) |
+        (dependency.updatesState || dependency.updatesVisibility ? kStateBit : 0U) |
+        (dependency.updatesVisibility ? kVisibilityBit : 0U);
+    const Publishing publishing(publishingFlags_, mask);
+
+    const bool visibilityChanged = dependency.updatesVisibility && updateCachedVisibility();
+    changes |=
+        {.subPropertyVisibilityChanged = visibilityChanged && subPropertyContainer_ != nullptr};
+    const bool stateChanged = (dependency.updatesState || visibilityChanged) && updateCachedState();
+    changes |= {.errorCountMayHaveChanged = stateChanged};
+
+    notify({.value = dependency.updatesValue && publishing.isOutermost(kValueBit)
+                         ? Notification::Value::WithoutDetails
+                         : Notification::Value::Silent,
+            .state = stateChanged && publishing.isOutermost(kStateBit),
+            .visibility = visibilityChanged && publishing.isOutermost(kVisibilityBit)});
+}
+
+std::size_t PropertyController::PropertyData::subscribe(SubscriptionCallbacks&& callbacks) {
+    const std::size_t id = nextSubscriptionId.fetch_add(1);
+    subscriptions_.insert(id, std::move(callbacks));
+    return id;
+}
+
+void PropertyController::PropertyData::unsubscribe(std::size_t id) noexcept {
+    subscriptions_.erase(id);
+}
+
+bool PropertyController::PropertyData::empty() const noexcept {
+    return !stateFunction_ && !visibilityFunction_ && dependentProperties_.empty() &&
+           raisedProperties_.empty() && subPropertyContainer_ == nullptr &&
+           crossReferenceController_ == nullptr && subscriptions_.empty();
+}
+
+bool PropertyController::PropertyData::updateCachedState() const {
+    return stateFunction_ && storeState(cachedVisibility_ ? stateFunction_() : PropertyState());
+}
+
+bool PropertyController::PropertyData::updateCachedVisibility() const {
+    return visibilityFunction_ && storeVisibility(visibilityFunction_());
+}
+
+// What was computed is compared with the cache only now: the functions may have published too.
+
+bool PropertyController::PropertyData::storeVisibility(bool visible) const noexcept {
+    return std::exchange(cachedVisibility_, visible) != visible;
+}
+
+bool PropertyController::PropertyData::storeState(PropertyState&& state) const noexcept {
+    if (!cachedVisibility_) {
+        state = PropertyState();
+    }
+    if (sameState(state, cachedState_)) {
+        return false;
+    }
+    cachedState_ = std::move(state);
+    return true;
+}
+
+void PropertyController::PropertyData::notify(const Notification& notification) const {
+    if (notification.value == Notification::Value::Silent && !notification.state &&
+        !notification.visibility) {
+        return;
+    }
+    subscriptions_.forEach([&](std::size_t id, const SubscriptionCallbacks& callbacks) {
+        if (notification.value != Notification::Value::Silent && callbacks.value) {
+            if (notification.value == Notification::Value::WithDetails) {
+                callbacks.value(notification.action, notification.index);
+            } else {
+                callbacks.value();
+            }
+        }
+        // A subscriber that ends its subscription in one callback hears nothing more.
+        if (notification.state && callbacks.state && subscriptions_.contains(id)) {
+            callbacks.state();
+        }
+        if (notification.visibility && callbacks.visibility && subscriptions_.contains(id)) {
+            callbacks.visibility();
+        }
+    });
+}
+
+} // namespace corvane::workbench::bindings
