@@ -1,0 +1,90 @@
+// A JSON array held in memory: values in order. To use the elements include json/Value.hpp.
+//
+// A value type; not synchronised. References, pointers and iterators to elements follow the rules
+// of std::vector.
+#pragma once
+
+#include <corvane/utils/json/encoder/Document.hpp>
+#include <corvane/workbench/export.hpp>
+#include <corvane/workbench/json/DecodingOptions.hpp>
+
+#include <tl/expected.hpp>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace corvane::utils::json::decoder {
+class Array;
+class Value;
+} // namespace corvane::utils::json::decoder
+namespace corvane::utils::json::encoder {
+class Array;
+class Value;
+} // namespace corvane::utils::json::encoder
+
+namespace corvane::workbench::json {
+
+class Value;
+
+class CORVANE_WORKBENCH_EXPORT Array {
+public:
+    using value_type = Value;
+    using iterator = std::vector<Value>::iterator;
+    using const_iterator = std::vector<Value>::const_iterator;
+
+    Array() noexcept;
+    Array(const Array& other);
+    /// Leaves `other` empty.
+    Array(Array&& other) noexcept;
+    /// Also safe when `other` is nested in this array.
+    Array& operator=(const Array& other);
+    Array& operator=(Array&& other) noexcept;
+    ~Array();
+
+    [[nodiscard]] bool empty() const noexcept;
+    [[nodiscard]] std::size_t size() const noexcept;
+    [[nodiscard]] iterator begin() noexcept;
+    [[nodiscard]] iterator end() noexcept;
+    [[nodiscard]] const_iterator begin() const noexcept;
+    [[nodiscard]] const_iterator end() const noexcept;
+
+    /// Precondition: `index` is less than the size.
+    [[nodiscard]] Value& operator[](std::size_t index) noexcept;
+    [[nodiscard]] const Value& operator[](std::size_t index) const noexcept;
+
+    void reserve(std::size_t size);
+    /// Adds a value at the end; returns it as held.
+    Value& append(Value value);
+    /// Removes one element; returns the one behind it.
+    iterator erase(const_iterator element);
+    void clear() noexcept;
+
+    /// Same length and equal values position by position.
+    [[nodiscard]] bool operator==(const Array& other) const;
+
+    /// Replaces the elements by those of a JSON array. Throws the decoder's exceptions and then
+    /// leaves the elements alone.
+    void decode(utils::json::decoder::Value& source, DecodingOptions options = {});
+    void decode(utils::json::decoder::Array& source, DecodingOptions options = {});
+
+    /// Writes the value as an array.
+    void encode(utils::json::encoder::Value& target) const;
+    /// Adds the elements to an open array.
+    void encode(utils::json::encoder::Array& target) const;
+
+    /// Reads a whole JSON text; the error is a message for the user.
+    [[nodiscard]] static tl::expected<Array, std::wstring> fromString(std::string_view text,
+                                                                      DecodingOptions options = {});
+    [[nodiscard]] std::string toString(utils::json::encoder::Document::Format format) const;
+
+private:
+    friend class Value;
+
+    void decodeElements(utils::json::decoder::Array& source);
+
+    std::vector<Value> m_elements;
+};
+
+} // namespace corvane::workbench::json

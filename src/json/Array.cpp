@@ -1,0 +1,131 @@
+#include <corvane/workbench/json/Array.hpp>
+
+#include "internal/text.hpp"
+
+#include <corvane/utils/json/decoder/Array.hpp>
+#include <corvane/utils/json/decoder/Value.hpp>
+#include <corvane/utils/json/encoder/Array.hpp>
+#include <corvane/utils/json/encoder/Value.hpp>
+#include <corvane/workbench/json/Value.hpp>
+
+#include <utility>
+
+namespace corvane::workbench::json {
+
+namespace decoder = utils::json::decoder;
+namespace encoder = utils::json::encoder;
+
+Array::Array() noexcept = default;
+Array::Array(const Array& other) = default;
+Array::Array(Array&& other) noexcept = default;
+Array::~Array() = default;
+
+Array& Array::operator=(const Array& other) {
+    // `other` may be an element of this array: copy it before the elements go.
+    std::vector<Value> elements(other.m_elements);
+    m_elements.swap(elements);
+    return *this;
+}
+
+Array& Array::operator=(Array&& other) noexcept {
+    std::vector<Value> elements(std::move(other.m_elements));
+    m_elements.swap(elements);
+    return *this;
+}
+
+bool Array::empty() const noexcept {
+    return m_elements.empty();
+}
+std::size_t Array::size() const noexcept {
+    return m_elements.size();
+}
+Array::iterator Array::begin() noexcept {
+    return m_elements.begin();
+}
+Array::iterator Array::end() noexcept {
+    return m_elements.end();
+}
+Array::const_iterator Array::begin() const noexcept {
+    return m_elements.begin();
+}
+Array::const_iterator Array::end() const noexcept {
+    return m_elements.end();
+}
+
+Value& Array::operator[](std::size_t index) noexcept {
+    return m_elements[index];
+}
+const Value& Array::operator[](std::size_t index) const noexcept {
+    return m_elements[index];
+}
+
+void Array::reserve(std::size_t size) {
+    m_elements.reserve(size);
+}
+
+Value& Array::append(Value value) {
+    return m_elements.emplace_back(std::move(value));
+}
+
+Array::iterator Array::erase(const_iterator element) {
+    return m_elements.erase(element);
+}
+
+void Array::clear() noexcept {
+    m_elements.clear();
+}
+
+bool Array::operator==(const Array& other) const {
+    if (m_elements.size() != other.m_elements.size()) {
+        return false;
+    }
+    for (std::size_t index = 0; index < m_elements.size(); ++index) {
+        if (!(m_elements[index] == other.m_elements[index])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void Array::decode(decoder::Value& source, DecodingOptions options) {
+    decoder::Array array = source.asArray();
+    decode(array, options);
+}
+
+void Array::decode(decoder::Array& source, DecodingOptions) {
+    Array decoded;
+    decoded.decodeElements(source);
+    m_elements.swap(decoded.m_elements);
+}
+
+void Array::decodeElements(decoder::Array& source) {
+    m_elements.reserve(source.elementCount());
+    for (decoder::Value& element : source) {
+        // Nested values are read with default options, whatever holds for the outermost one.
+        m_elements.emplace_back().decodeContent(element, {});
+    }
+}
+
+void Array::encode(encoder::Value& target) const {
+    encoder::Array array = target.writeArray();
+    encode(array);
+}
+
+void Array::encode(encoder::Array& target) const {
+    for (const Value& element : m_elements) {
+        encoder::Value value = target.addElement();
+        element.encode(value);
+    }
+}
+
+tl::expected<Array, std::wstring> Array::fromString(std::string_view text,
+                                                    DecodingOptions options) {
+    return internal::fromText<Array>(
+        text, [options](Array& array, decoder::Value& root) { array.decode(root, options); });
+}
+
+std::string Array::toString(encoder::Document::Format format) const {
+    return internal::toText(*this, format);
+}
+
+} // namespace corvane::workbench::json

@@ -1,0 +1,197 @@
+#include <corvane/workbench/json/Object.hpp>
+
+#include "internal/MemberIndex.hpp"
+#include "internal/text.hpp"
+#include "internal/throwAt.hpp"
+
+#include <corvane/utils/json/decoder/Name.hpp>
+#include <corvane/utils/json/decoder/Object.hpp>
+#include <corvane/utils/json/decoder/Value.hpp>
+#include <corvane/utils/json/encoder/Object.hpp>
+#include <corvane/utils/json/encoder/Value.hpp>
+#include <corvane/workbench/json/Value.hpp>
+
+#include <algorithm>
+#include <format>
+#include <stdexcept>
+#include <utility>
+
+namespace corvane::workbench::json {
+
+namespace decoder = utils::json::decoder;
+namespace encoder = utils::json::encoder;
+
+namespace {
+
+[[noreturn]] void throwDuplicateMember(const decoder::Name& name) {
+    internal::throwAt(name.location(), std::runtime_error(std::format(
+                                           "duplicate member \"{}\" in JSON object", name.text())));
+}
+
+} // namespace
+
+constinit const Object::CorvaneElementFilter Object::kCorvaneElementFilter{};
+
+bool Object::CorvaneElementFilter::operator()(const decoder::Name& name, decoder::Value&) const {
+    const std::string_view text = name.text();
+    if (text == "name" || text == "UUID" || text == "ACL" || text == "children") {
+        internal::throwAt(name.location(),
+                          std::runtime_error(std::format("reserved member name \"{}\"", text)));
+    }
+    return false;
+}
+
+Object::Object() noexcept = default;
+Object::Object(const Object& other) = default;
+Object::Object(Object&& other) noexcept = default;
+Object::~Object() = default;
+
+Object& Object::operator=(const Object& other) {
+    // `other` may be the value of a member of this object: copy it before the members go.
+    std::vector<Member> members(other.m_members);
+    m_members.swap(members);
+    return *this;
+}
+
+Object& Object::operator=(Object&& other) noexcept {
+    std::vector<Member> members(std::move(other.m_members));
+    m_members.swap(members);
+    return *this;
+}
+
+bool Object::empty() const noexcept {
+    return m_members.empty();
+}
+std::size_t Object::size() const noexcept {
+    return m_members.size();
+}
+Object::iterator Object::begin() noexcept {
+    return m_members.begin();
+}
+Object::iterator Object::end() noexcept {
+    return m_members.end();
+}
+Object::const_iterator Object::begin() const noexcept {
+    return m_members.begin();
+}
+Object::const_iterator Object::end() const noexcept {
+    return m_members.end();
+}
+
+Value* Object::find(std::string_view name) noexcept {
+    const auto member = std::ranges::find(m_members, name, &Member::first);
+    return member == m_members.end() ? nullptr : &member->second;
+}
+
+const Value* Object::find(std::string_view name) const noexcept {
+    const auto member = std::ranges::find(m_members, name, &Member::first);
+    return member == m_members.end() ? nullptr : &member->second;
+}
+
+void Object::reserve(std::size_t size) {
+    m_members.reserve(size);
+}
+
+Value& Object::append(std::string name, Value value) {
+    return m_members.emplace_back(std::move(name), std::move(value)).second;
+}
+
+bool Object::erase(std::string_view name) {
+    const auto member = std::ranges::find(m_members, name, &Member::first);
+    if (member == m_members.end()) {
+        return false;
+    }
+    m_members.erase(member);
+    return true;
+}
+
+Object::iterator Object::erase(const_iterator member) {
+    return m_members.erase(member);
+}
+
+void Object::clear() noexcept {
+    m_members.clear();
+}
+
+bool Object::operator==(const Object& other) const {
+    if (m_members.size() != other.m_members.size()) {
+        return false;
+    }
+    for (std::size_t index = 0; index < m_members.size(); ++index) {
+        const Member& left = m_members[index];
+        const Member& right = other.m_members[index];
+        if (left.first != right.first || !(left.second == right.second)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void Object::decode(decoder::Value& source, DecodingOptions options) {
+    decoder::Object object = source.asObject();
+    decode(object, options);
+}
+
+void Object::decode(decoder::Object& source, DecodingOptions options) {
+    Object decoded;
+    decoded.decodeMembers(source, options);
+    m_members.swap(decoded.m_members);
+}
+
+void Object::decodeInternal(decoder::Value& source, MemberFilter filter, DecodingOptions options) {
+    decoder::Object object = source.asObject();
+    decodeInternal(object, filter, options);
+}
+
+void Object::decodeInternal(decoder::Object& source, MemberFilter filter, DecodingOptions options) {
+    source.addFilter(filter);
+    decode(source, options);
+}
+
+void Object::decodeMembers(decoder::Object& source, DecodingOptions options) {
+    m_members.reserve(source.memberCount());
+    internal::MemberIndex index(m_members, source.memberCount());
+    for (const decoder::Member& member : source) {
+        const std::size_t position = index.findOrEnter(member.name.text());
+        // Nested values are read with default options, whatever holds for the outermost one.
+        if (position == internal::MemberIndex::kNone) {
+            m_members.emplace_back(member.name.text(), Value())
+                .second.decodeContent(member.value, {});
+        } else if (options.allowDuplicateMembers) {
+            m_members[position].second.decode(member.value);
+        } else {
+            throwDuplicateMember(member.name);
+        }
+    }
+}
+
+void Object::encode(encoder::Value& target) const {
+    encoder::Object object = target.writeObject();
+    encode(object);
+}
+
+void Object::encode(encoder::Object& target) const {
+    for (const Member& member : m_members) {
+        encoder::Value value = target.addMember(member.first);
+        member.second.encode(value);
+    }
+}
+
+tl::expected<Object, std::wstring> Object::fromString(std::string_view text,
+                                                      DecodingOptions options) {
+    return internal::fromText<Object>(
+        text, [options](Object& object, decoder::Value& root) { object.decode(root, options); });
+}
+
+tl::expected<Object, std::wstring>
+Object::fromStringInternal(std::string_view text, MemberFilter filter, DecodingOptions options) {
+    return internal::fromText<Object>(text, [&](Object& object, decoder::Value& root) {
+        object.decodeInternal(root, filter, options);
+    });
+}
+
+std::string Object::toString(encoder::Document::Format format) const {
+    return internal::toText(*this, format);
+}
+
+} // namespace corvane::workbench::json

@@ -1,0 +1,45 @@
+// Finds members of an object by name while the object is built. A small object is searched from
+// the front; a large one gets a hash table of positions, in one allocation.
+#pragma once
+
+#include <corvane/workbench/json/Object.hpp>
+#include <corvane/workbench/json/Value.hpp>
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+namespace corvane::workbench::json::internal {
+
+class MemberIndex {
+public:
+    static constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+
+    /// Watches `members`, which is empty and to which at most `capacity` members will be appended.
+    MemberIndex(const std::vector<Object::Member>& members, std::size_t capacity);
+
+    /// The position of the member of that name, or kNone; then the caller appends that member.
+    [[nodiscard]] std::size_t findOrEnter(std::string_view name) {
+        return m_slots.empty() ? search(name) : findOrEnterInTable(name);
+    }
+
+private:
+    /// Up to here comparing with every member is faster than hashing.
+    static constexpr std::size_t kSmall = 16;
+
+    struct Slot {
+        /// Counts from 1; 0 in an empty slot.
+        std::uint32_t position = 0;
+        std::uint32_t hash = 0;
+    };
+
+    [[nodiscard]] std::size_t search(std::string_view name) const noexcept;
+    [[nodiscard]] std::size_t findOrEnterInTable(std::string_view name);
+
+    const std::vector<Object::Member>& m_members;
+    std::vector<Slot> m_slots;
+};
+
+} // namespace corvane::workbench::json::internal
