@@ -1,0 +1,12 @@
+// Asks a loading operation to accept the older form of a time span, a count of microseconds.
+#pragma once
+
+namespace corvane::utils::json::decoder {
+
+struct AllowLegacyMicrosecondsTag {
+    explicit AllowLegacyMicrosecondsTag() = default;
+};
+
+inline constexpr AllowLegacyMicrosecondsTag kAllowLegacyMicroseconds{};
+
+} // namespace corvane::utils::json::decoder

@@ -1,0 +1,28 @@
+// What every error in a JSON text can be caught as. It is not a std::exception itself: the class
+// that is thrown (detail::WrappedException) derives from one besides.
+#pragma once
+
+#include <corvane/utils/export.hpp>
+#include <corvane/utils/json/decoder/Location.hpp>
+
+namespace corvane::utils::json::decoder {
+
+class CORVANE_UTILS_EXPORT Exception {
+public:
+    explicit Exception(const Location& location) noexcept : location_(location) {}
+    virtual ~Exception();
+
+    /// Where in the text the error is.
+    [[nodiscard]] const Location& location() const noexcept { return location_; }
+    /// The message alone, without the location.
+    [[nodiscard]] virtual const char* message() const noexcept = 0;
+
+protected:
+    Exception(const Exception&) = default;
+    Exception& operator=(const Exception&) = default;
+
+private:
+    Location location_;
+};
+
+} // namespace corvane::utils::json::decoder

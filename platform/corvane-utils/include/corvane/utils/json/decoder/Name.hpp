@@ -1,0 +1,40 @@
+// The name of a member of a JSON object, with its place in the text. A small value; one that
+// comes from a Document is valid while the document lives.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include <corvane/utils/export.hpp>
+#include <corvane/utils/json/decoder/Location.hpp>
+#include <corvane/utils/json/decoder/detail/Tape.hpp>
+
+namespace corvane::utils::json::decoder {
+
+class CORVANE_UTILS_EXPORT Name {
+public:
+    /// A name that comes from no document. The text is borrowed.
+    explicit Name(std::string_view text, const Location& location = {}) noexcept
+        : text_(text), location_(location) {}
+
+    /// The name's text (UTF-8).
+    [[nodiscard]] std::string_view text() const noexcept { return text_; }
+    operator std::string_view() const noexcept { return text_; }
+
+    /// Where the name stands; unknown for a name that came with no location.
+    [[nodiscard]] Location location() const;
+
+private:
+    friend class Object;
+
+    Name() noexcept = default;
+    Name(const detail::Tape& tape, std::uint32_t index) noexcept
+        : text_(tape.string(index)), tape_(&tape), offset_(tape[index].offset) {}
+
+    std::string_view text_;
+    const detail::Tape* tape_ = nullptr;
+    std::size_t offset_ = 0;
+    Location location_;
+};
+
+} // namespace corvane::utils::json::decoder

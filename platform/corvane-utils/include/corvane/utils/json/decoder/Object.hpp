@@ -1,0 +1,109 @@
+// A walk over the members of a JSON object in the order of the text, once from front to back.
+// Valid while its Document lives.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <vector>
+
+#include <corvane/utils/core/function_ref.hpp>
+#include <corvane/utils/export.hpp>
+#include <corvane/utils/json/decoder/Location.hpp>
+#include <corvane/utils/json/decoder/Member.hpp>
+#include <corvane/utils/json/decoder/Value.hpp>
+#include <corvane/utils/json/decoder/detail/Tape.hpp>
+
+namespace corvane::utils::json::decoder {
+
+class CORVANE_UTILS_EXPORT Object {
+public:
+    /// Sees a member before the walk delivers it; true when it has consumed the member.
+    using Filter = core::function_ref<bool(const Name&, Value&)>;
+
+    /// A single-pass iterator: all iterators of an object stand at the same member.
+    class Iterator {
+    public:
+        using iterator_concept = std::input_iterator_tag;
+        using value_type = Member;
+        using difference_type = std::ptrdiff_t;
+
+        [[nodiscard]] Member operator*() const noexcept {
+            return Member{object_->name_, object_->value_};
+        }
+        Iterator& operator++() {
+            object_->advance();
+            return *this;
+        }
+        void operator++(int) { ++*this; }
+        [[nodiscard]] friend bool operator==(const Iterator& iterator,
+                                             std::default_sentinel_t) noexcept {
+            return iterator.object_->atEnd_;
+        }
+
+    private:
+        friend class Object;
+
+        explicit Iterator(Object& object) noexcept : object_(&object) {}
+
+        Object* object_;
+    };
+
+    Object(const Object&) = delete;
+    Object& operator=(const Object&) = delete;
+    ~Object();
+
+    /// Has the filter called for every member that the walk has not reached yet. Filters are
+    /// called in the order in which they were added until one consumes the member, which is then
+    /// not delivered. What a filter refers to must outlive the walk. What a filter throws comes
+    /// out of the walk.
+    void addFilter(Filter filter) { filters_.push_back(filter); }
+
+    /// Starts the walk, or stays where it is when it has started.
+    [[nodiscard]] Iterator begin() {
+        if (!started_) {
+            started_ = true;
+            advance();
+        }
+        return Iterator(*this);
+    }
+    [[nodiscard]] static std::default_sentinel_t end() noexcept { return std::default_sentinel; }
+
+    /// How many members the object has in all, those for filters included.
+    [[nodiscard]] std::size_t memberCount() const noexcept { return tape_->count(index_); }
+
+    /// Where the object begins.
+    [[nodiscard]] Location location() const;
+
+private:
+    friend class Value;
+
+    Object(const detail::Tape& tape, std::uint32_t index) noexcept
+        : tape_(&tape), index_(index), next_(index + 1), behind_(tape.behind(index)),
+          value_(tape, index) {}
+
+    void advance() {
+        do {
+            if (next_ == behind_) {
+                atEnd_ = true;
+                return;
+            }
+            name_ = Name(*tape_, next_);
+            value_.index_ = next_ + 1;
+            next_ = tape_->behind(next_ + 1);
+        } while (!filters_.empty() && isConsumed());
+    }
+    [[nodiscard]] bool isConsumed();
+
+    const detail::Tape* tape_;
+    std::uint32_t index_;
+    std::uint32_t next_;
+    std::uint32_t behind_;
+    bool started_ = false;
+    bool atEnd_ = false;
+    Name name_;
+    Value value_;
+    std::vector<Filter> filters_;
+};
+
+} // namespace corvane::utils::json::decoder

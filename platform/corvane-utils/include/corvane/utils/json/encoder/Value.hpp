@@ -1,0 +1,41 @@
+// A place in a JSON document where one value is to be written, once. A value that is never
+// written becomes null. A small handle, valid while its Document lives.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include <corvane/utils/export.hpp>
+
+namespace corvane::utils::json::encoder {
+
+class Array;
+class Document;
+class Object;
+
+class CORVANE_UTILS_EXPORT Value {
+public:
+    /// Makes the value an object. It is complete when something is added to a container around
+    /// it, or when the document is closed.
+    Object writeObject();
+    /// Makes the value an array, which is completed as an object is.
+    Array writeArray();
+    /// Writes a string (UTF-8). Only what must be escaped is escaped; malformed UTF-8 is written
+    /// as U+FFFD once per maximal subpart, so that the document can always be read.
+    void writeString(std::string_view text);
+    /// Writes a number as it stands. @pre number is a number by the rules of JSON.
+    void writeNumber(std::string_view number);
+    void writeBool(bool value);
+    void writeNull();
+
+private:
+    friend class Document;
+
+    Value(Document& document, std::uint64_t ticket) noexcept
+        : document_(&document), ticket_(ticket) {}
+
+    Document* document_;
+    std::uint64_t ticket_;
+};
+
+} // namespace corvane::utils::json::encoder

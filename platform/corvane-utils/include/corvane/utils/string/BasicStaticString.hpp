@@ -1,0 +1,70 @@
+// A text with room for Capacity characters inside the object: it never allocates. A plain value.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include <corvane/utils/export.hpp>
+
+namespace corvane::utils::string {
+
+namespace detail {
+
+/// @throws std::length_error always, with the text
+///         "corvane::utils::string::BasicStaticString: size of N exceeds capacity of M".
+[[noreturn]] CORVANE_UTILS_EXPORT void throwStaticStringLengthError(std::size_t size,
+                                                                    std::size_t capacity);
+
+} // namespace detail
+
+/// Every operation that would make the text longer than its capacity throws std::length_error
+/// and leaves the text as it was.
+template <class Char, std::size_t Capacity>
+class BasicStaticString {
+public:
+    using value_type = Char;
+    using View = std::basic_string_view<Char>;
+
+    constexpr BasicStaticString() noexcept = default;
+    constexpr explicit BasicStaticString(View text) { append(text); }
+
+    [[nodiscard]] static constexpr std::size_t capacity() noexcept { return Capacity; }
+    [[nodiscard]] constexpr std::size_t size() const noexcept { return size_; }
+    [[nodiscard]] constexpr bool empty() const noexcept { return size_ == 0; }
+    /// The characters; they are not terminated by a null character.
+    [[nodiscard]] constexpr const Char* data() const noexcept { return characters_.data(); }
+    [[nodiscard]] constexpr const Char* begin() const noexcept { return data(); }
+    [[nodiscard]] constexpr const Char* end() const noexcept { return data() + size_; }
+    [[nodiscard]] constexpr View view() const noexcept { return View(data(), size_); }
+    constexpr operator View() const noexcept { return view(); }
+
+    /// @throws std::length_error when the text becomes too long.
+    constexpr BasicStaticString& append(View text) {
+        if (text.size() > Capacity - size_) {
+            detail::throwStaticStringLengthError(size_ + text.size(), Capacity);
+        }
+        std::copy(text.begin(), text.end(), characters_.data() + size_);
+        size_ += text.size();
+        return *this;
+    }
+    /// @throws std::length_error when the text becomes too long.
+    constexpr void push_back(Char character) { append(View(&character, 1)); }
+    constexpr void clear() noexcept { size_ = 0; }
+
+    [[nodiscard]] friend constexpr bool operator==(const BasicStaticString& left,
+                                                   const BasicStaticString& right) noexcept {
+        return left.view() == right.view();
+    }
+    [[nodiscard]] friend constexpr bool operator==(const BasicStaticString& left,
+                                                   View right) noexcept {
+        return left.view() == right;
+    }
+
+private:
+    std::array<Char, Capacity> characters_{};
+    std::size_t size_ = 0;
+};
+
+} // namespace corvane::utils::string

@@ -1,0 +1,23 @@
+#include <corvane/utils/json/decoder/Document.hpp>
+
+#include "tokenise.hpp"
+
+namespace corvane::utils::json::decoder {
+
+Document::Document(io::InputStream<char>& stream)
+    : tape_(stream.readRest(storage_)), rootEnd_(detail::tokenise(tape_, kMaximumDepth)),
+      root_(tape_, 0) {}
+
+Document::~Document() = default;
+
+void Document::finish() const {
+    std::size_t position = rootEnd_;
+    while (position != tape_.text.size() && detail::isBlank(tape_.text[position])) {
+        ++position;
+    }
+    if (position != tape_.text.size()) {
+        detail::throwSyntaxError(tape_, position, "unexpected text after the end of the value");
+    }
+}
+
+} // namespace corvane::utils::json::decoder

@@ -1,0 +1,126 @@
+#include <corvane/utils/json/decoder/Value.hpp>
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include <corvane/utils/json/decoder/Array.hpp>
+#include <corvane/utils/json/decoder/Object.hpp>
+#include <corvane/utils/json/decoder/detail/WrappedException.hpp>
+
+namespace corvane::utils::json::decoder {
+
+namespace {
+
+[[nodiscard]] std::string_view numberText(std::string_view fromNumber) {
+    return fromNumber.substr(0, fromNumber.find_first_not_of("+-.0123456789eE"));
+}
+
+[[noreturn]] void throwRangeError(const Location& location, std::string_view number,
+                                  std::string_view reason) {
+    std::string text = "the number ";
+    text.append(number).append(reason);
+    throw detail::WrappedException<std::out_of_range>(location, std::out_of_range(text));
+}
+
+/// Gives a number as the integer type T.
+template <class T>
+class IntegerConversion {
+public:
+    IntegerConversion(const detail::Tape& tape, const detail::Token& token) noexcept
+        : tape_(tape), token_(token) {}
+
+    template <class Integer>
+    [[nodiscard]] T operator()(Integer number) const {
+        if (!std::in_range<T>(number)) {
+            fail(" is out of range");
+        }
+        return static_cast<T>(number);
+    }
+
+    [[nodiscard]] T operator()(double number) const {
+        if (std::trunc(number) != number) {
+            fail(" is not a whole number");
+        }
+        // Powers of two are exact as doubles; the type's largest value may not be.
+        const double limit = std::ldexp(1.0, std::numeric_limits<T>::digits);
+        const double lowest = std::numeric_limits<T>::is_signed ? -limit : 0.0;
+        if (number < lowest || number >= limit) {
+            fail(" is out of range");
+        }
+        return static_cast<T>(number);
+    }
+
+private:
+    [[noreturn]] void fail(std::string_view reason) const {
+        throwRangeError(tape_.locate(token_.offset), numberText(tape_.text.substr(token_.offset)),
+                        reason);
+    }
+
+    const detail::Tape& tape_;
+    const detail::Token& token_;
+};
+
+} // namespace
+
+std::string_view Value::kindName() const noexcept {
+    switch (kind()) {
+    case detail::TokenKind::Object:
+        return "an object";
+    case detail::TokenKind::Array:
+        return "an array";
+    case detail::TokenKind::String:
+    case detail::TokenKind::EscapedString:
+        return "a string";
+    case detail::TokenKind::Int64:
+    case detail::TokenKind::UInt64:
+    case detail::TokenKind::Double:
+        return "a number";
+    case detail::TokenKind::True:
+    case detail::TokenKind::False:
+        return "a boolean";
+    case detail::TokenKind::Null:
+        break;
+    }
+    return "null";
+}
+
+Object Value::asObject() const {
+    if (!isObject()) {
+        throwUnexpected("an object");
+    }
+    return Object(*tape_, index_);
+}
+
+Array Value::asArray() const {
+    if (!isArray()) {
+        throwUnexpected("an array");
+    }
+    return Array(*tape_, index_);
+}
+
+std::int64_t Value::asInt64() const {
+    return std::visit(IntegerConversion<std::int64_t>(*tape_, (*tape_)[index_]), asNumber());
+}
+
+std::uint64_t Value::asUInt64() const {
+    return std::visit(IntegerConversion<std::uint64_t>(*tape_, (*tape_)[index_]), asNumber());
+}
+
+double Value::asDouble() const {
+    return std::visit([](auto number) { return static_cast<double>(number); }, asNumber());
+}
+
+Location Value::location() const {
+    return tape_->locate((*tape_)[index_].offset);
+}
+
+void Value::throwUnexpected(std::string_view expected) const {
+    std::string text = "expected ";
+    text.append(expected).append(", found ").append(kindName());
+    throw detail::WrappedException<std::runtime_error>(location(), std::runtime_error(text));
+}
+
+} // namespace corvane::utils::json::decoder
