@@ -1,5 +1,6 @@
 #include <corvane/utils/json/decoder/Value.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -14,8 +15,13 @@ namespace corvane::utils::json::decoder {
 
 namespace {
 
-[[nodiscard]] std::string_view numberText(std::string_view fromNumber) {
-    return fromNumber.substr(0, fromNumber.find_first_not_of("+-.0123456789eE"));
+/// The number's text, shortened when it is too long for a message.
+[[nodiscard]] std::string numberText(std::string_view fromNumber) {
+    constexpr std::size_t kLimit = 40;
+    const std::size_t length =
+        std::min(fromNumber.find_first_not_of("+-.0123456789eE"), fromNumber.size());
+    std::string text(fromNumber.substr(0, std::min(length, kLimit)));
+    return length > kLimit ? text + "..." : text;
 }
 
 [[noreturn]] void throwRangeError(const Location& location, std::string_view number,

@@ -16,8 +16,10 @@
 // The parser recurses with the depth of the text, so its frames must be small.
 #define BOOST_JSON_STACK_BUFFER_SIZE 128
 #include <boost/json/basic_parser_impl.hpp>
+#include <boost/json/detail/charconv/impl/from_chars.ipp>
 #include <boost/json/detail/impl/default_resource.ipp>
 #include <boost/json/detail/impl/except.ipp>
+#include <boost/json/detail/impl/shared_resource.ipp>
 #include <boost/json/detail/impl/stack.ipp>
 #include <boost/json/impl/error.ipp>
 
@@ -42,6 +44,11 @@ public:
     explicit TapeWriter(Tape& tape) : tape_(tape), position_(tape.text.data()) {
         // Few texts have more tokens; what is not used costs address space only.
         tape_.tokens.reserve(tape_.text.size() / 8 + 1);
+    }
+
+    /// Where the token is that was looked at last.
+    [[nodiscard]] std::size_t position() const noexcept {
+        return static_cast<std::size_t>(position_ - tape_.text.data());
     }
 
     bool on_document_begin(parsing::error_code&) { return true; }
@@ -272,8 +279,11 @@ std::size_t tokenise(Tape& tape, std::size_t maximumDepth) {
     options.numbers = parsing::number_precision::none;
     Parser parser(options, tape);
     parsing::error_code error;
-    const std::size_t end = parser.write_some(false, tape.text.data(), tape.text.size(), error);
+    std::size_t end = parser.write_some(false, tape.text.data(), tape.text.size(), error);
     if (error) {
+        if (error == parsing::error::not_double) {
+            end = parser.handler().position(); // the number's beginning, not its end
+        }
         throwSyntaxError(tape, end, describe(error, tape.text.substr(end), maximumDepth));
     }
     return end;
