@@ -113,6 +113,7 @@ private:
 
     void insertChild(std::unique_ptr<ElementNode> child);
     [[nodiscard]] std::unique_ptr<ElementNode> extractChild(ElementNode& child);
+    void renameChild(ElementNode& child, std::string name);
 
     ElementTree* _tree = nullptr; // of the root only
     const skill::Element::Class* _elementClass = nullptr;

@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] ElementNode& element() const noexcept { return _element; }
 
+    /// Counts anew what is directly below, after elements were linked without counting.
+    void recount();
+
 private:
     void forEachSubPropertyContainer(
         const corvane::utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,

@@ -25,17 +25,17 @@ public:
     /// The absolute path under which the library was opened.
     [[nodiscard]] const std::filesystem::path& path() const noexcept { return _path; }
     /// The library's skill classes, oldest first; never empty.
-    [[nodiscard]] std::span<const std::reference_wrapper<skill::Skill::Class>>
+    [[nodiscard]] std::span<const std::reference_wrapper<const skill::Skill::Class>>
     skillClasses() const noexcept {
         return _skillClasses;
     }
 
 private:
     SkillLibrary(std::filesystem::path path,
-                 std::vector<std::reference_wrapper<skill::Skill::Class>> skillClasses);
+                 std::vector<std::reference_wrapper<const skill::Skill::Class>> skillClasses);
 
     std::filesystem::path _path;
-    std::vector<std::reference_wrapper<skill::Skill::Class>> _skillClasses;
+    std::vector<std::reference_wrapper<const skill::Skill::Class>> _skillClasses;
 };
 
 } // namespace corvane::workbench::host

@@ -1,0 +1,64 @@
+#pragma once
+
+// Builds the elements of a configuration in one pass over its JSON text. The workbench's own
+// members are taken out by a filter, so that the skill's half sees only what is its own, and
+// children are built on the way.
+
+#include "ProgressReport.hpp"
+
+#include <corvane/utils/json/decoder/Array.hpp>
+#include <corvane/utils/json/decoder/Name.hpp>
+#include <corvane/utils/json/decoder/Object.hpp>
+#include <corvane/utils/json/decoder/Value.hpp>
+#include <corvane/workbench/host/ElementClassRegistry.hpp>
+#include <corvane/workbench/host/LoadOptions.hpp>
+#include <corvane/workbench/host/Problem.hpp>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace corvane::workbench::host {
+
+class ElementNode;
+class ElementTree;
+class LoadContext;
+
+class ConfigurationReader {
+public:
+    ConfigurationReader(const ElementClassRegistry& classes, const LoadOptions& options,
+                        const std::filesystem::path& file, ElementTree& tree, LoadContext& context,
+                        std::vector<Problem>& problems);
+
+    /// Fills the tree from the root value. False when the load has ended with a problem.
+    [[nodiscard]] bool read(const corvane::utils::json::decoder::Value& root);
+
+private:
+    struct Fault;
+    struct GivenUp;
+    class ElementMembers;
+
+    void readRoot(const corvane::utils::json::decoder::Value& root);
+    void readChildren(ElementNode& parent, const corvane::utils::json::decoder::Value& children);
+    void readChild(ElementNode& parent, const corvane::utils::json::decoder::Value& child);
+    void readElement(ElementNode& parent, const corvane::utils::json::decoder::Name& classId,
+                     const corvane::utils::json::decoder::Value& value);
+    /// Turns the exception being handled into a problem and ends the load unless it goes on.
+    void reportCurrentException(const corvane::utils::json::decoder::Location& fallback);
+
+    const ElementClassRegistry& _classes;
+    const LoadOptions& _options;
+    const std::filesystem::path& _file;
+    ElementTree& _tree;
+    LoadContext& _context;
+    std::vector<Problem>& _problems;
+    ProgressReport _progress;
+    bool _givenUp = false;
+};
+
+/// A problem in a file from a caught exception: located where the exception says, else at the
+/// fallback.
+[[nodiscard]] Problem problemOf(const std::exception& exception, const std::filesystem::path& file,
+                                const corvane::utils::json::decoder::Location& fallback = {});
+
+} // namespace corvane::workbench::host

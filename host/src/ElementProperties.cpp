@@ -1,0 +1,35 @@
+#include <corvane/workbench/host/ElementProperties.hpp>
+
+#include <corvane/workbench/host/ElementNode.hpp>
+
+namespace corvane::workbench::host {
+
+void ElementProperties::recount() {
+    subPropertyContainerListChanged({});
+}
+
+void ElementProperties::forEachSubPropertyContainer(
+    const corvane::utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,
+    bool /*includeInvisible*/) {
+    if (skill::Element* skillElement = _element.skillElement()) {
+        callback(*skillElement);
+    }
+    for (std::size_t index = 0; index < _element.childCount(); ++index) {
+        callback(_element.child(index).properties());
+    }
+}
+
+// An element's own properties are those of the skill's half.
+void ElementProperties::forEachLocalCrossReference(
+    const corvane::utils::core::function_ref<void(bindings::CrossReferenceController&)>&
+    /*callback*/,
+    bool /*includeInvisible*/) {}
+
+std::size_t ElementProperties::localPropertyErrorCount() const {
+    return 0;
+}
+
+// There is no property here that the skill's half could mean.
+void ElementProperties::propertyNotificationRaised(const bindings::PropertyId& /*property*/) {}
+
+} // namespace corvane::workbench::host

@@ -1,0 +1,34 @@
+#pragma once
+
+// Passes a stream on and reports how much of it has been read.
+
+#include "ProgressReport.hpp"
+
+#include <corvane/utils/io/InputStream.hpp>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace corvane::workbench::host {
+
+class ProgressInputStream final : public corvane::utils::io::InputStream<char> {
+public:
+    /// The total may be 0 for unknown. Source and callback must outlive the stream.
+    ProgressInputStream(corvane::utils::io::InputStream<char>& source,
+                        const std::function<bool(const LoadProgress&)>& callback,
+                        std::uint64_t total);
+    ~ProgressInputStream() override;
+
+    [[nodiscard]] std::string description() const override { return _source.description(); }
+
+private:
+    /// Throws std::runtime_error when the callback says to give up.
+    bool refill() override;
+
+    corvane::utils::io::InputStream<char>& _source;
+    ProgressReport _report;
+    std::vector<char> _block;
+};
+
+} // namespace corvane::workbench::host

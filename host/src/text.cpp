@@ -1,0 +1,27 @@
+#include "text.hpp"
+
+namespace corvane::workbench::host {
+
+std::string pathText(const std::filesystem::path& path) {
+    const auto text = path.u8string();
+    return std::string(text.begin(), text.end());
+}
+
+std::string inQuotes(std::string_view text) {
+    constexpr std::size_t kLongest = 200;
+    std::string result = "“";
+    if (text.size() <= kLongest) {
+        result += text;
+    } else {
+        std::size_t length = kLongest;
+        while (length != 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U) {
+            --length;
+        }
+        result += text.substr(0, length);
+        result += "…";
+    }
+    result += "”";
+    return result;
+}
+
+} // namespace corvane::workbench::host

@@ -1,0 +1,24 @@
+#include "treeRules.hpp"
+
+#include "text.hpp"
+
+#include <corvane/workbench/host/ElementNode.hpp>
+
+namespace corvane::workbench::host {
+
+bool allowsChild(const ElementNode& parent, const skill::Element::Class& childClass) {
+    return parent.isInvisibleRoot() || parent.elementClass().allowChildElement(childClass);
+}
+
+std::string childRefused(const ElementNode& parent, const skill::Element::Class& childClass) {
+    return "an element of the class " + inQuotes(parent.elementClass().id()) +
+           " does not accept children of the class " + inQuotes(childClass.id());
+}
+
+std::string nameTaken(const ElementNode& parent, std::string_view name) {
+    return parent.isInvisibleRoot() ? "there is already a top-level element named " + inQuotes(name)
+                                    : "the element " + inQuotes(parent.primaryKey()) +
+                                          " already has a child named " + inQuotes(name);
+}
+
+} // namespace corvane::workbench::host

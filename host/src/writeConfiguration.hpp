@@ -1,0 +1,14 @@
+#pragma once
+
+// Writes the elements of a tree as a configuration.
+
+#include <corvane/utils/io/OutputStream.hpp>
+
+namespace corvane::workbench::host {
+
+class ElementNode;
+
+/// Writes indented JSON and flushes the stream. What the stream and the skills throw comes out.
+void writeConfiguration(const ElementNode& root, corvane::utils::io::OutputStream<char>& stream);
+
+} // namespace corvane::workbench::host
