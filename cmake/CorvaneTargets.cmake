@@ -53,3 +53,6 @@ if(MINGW AND CMAKE_CROSSCOMPILING)
         file(COPY "${place}" DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" FOLLOW_SYMLINK_CHAIN)
     endforeach()
 endif()
+if(WIN32)
+    set(CMAKE_SHARED_LIBRARY_PREFIX "") # CorvaneUtils.dll with every compiler
+endif()

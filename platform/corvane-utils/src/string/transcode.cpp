@@ -39,11 +39,11 @@ constexpr std::size_t kBlock = 8;
     return to;
 }
 
-[[nodiscard]] constexpr bool isLeadingSurrogate(wchar_t unit) noexcept {
+[[nodiscard]] constexpr bool isLeadingSurrogate(char32_t unit) noexcept {
     return unit >= 0xD800 && unit <= 0xDBFF;
 }
 
-[[nodiscard]] constexpr bool isTrailingSurrogate(wchar_t unit) noexcept {
+[[nodiscard]] constexpr bool isTrailingSurrogate(char32_t unit) noexcept {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
@@ -85,18 +85,19 @@ std::string toUtf8(std::wstring_view utf16) {
     const wchar_t* from = utf16.data();
     const wchar_t* const end = from + utf16.size();
     while (from != end) {
-        const wchar_t unit = *from++;
-        if (unit >= 0 && unit < 0x80) {
+        // Where wchar_t has 32 bits, and a sign, it may hold what is no code unit.
+        const auto unit = static_cast<char32_t>(*from++);
+        if (unit < 0x80) {
             *to++ = static_cast<char>(unit);
-        } else if (isLeadingSurrogate(unit) && from != end && isTrailingSurrogate(*from)) {
-            to = appendUtf8(to, 0x10000U + ((static_cast<char32_t>(unit) - 0xD800U) << 10U) +
+        } else if (isLeadingSurrogate(unit) && from != end &&
+                   isTrailingSurrogate(static_cast<char32_t>(*from))) {
+            to = appendUtf8(to, 0x10000U + ((unit - 0xD800U) << 10U) +
                                     (static_cast<char32_t>(*from) - 0xDC00U));
             ++from;
-        } else if (isLeadingSurrogate(unit) || isTrailingSurrogate(unit) || unit < 0 ||
-                   unit > 0xFFFF) {
+        } else if (isLeadingSurrogate(unit) || isTrailingSurrogate(unit) || unit > 0xFFFF) {
             to = appendUtf8(to, U'\uFFFD');
         } else {
-            to = appendUtf8(to, static_cast<char32_t>(unit));
+            to = appendUtf8(to, unit);
         }
     }
     utf8.resize(static_cast<std::size_t>(to - utf8.data()));
