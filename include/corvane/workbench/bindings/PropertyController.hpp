@@ -63,13 +63,13 @@ public:
 
     /// How a property behaves. The lists borrow; see PropertyIdRange for how long.
     struct PropertyConfiguration {
-        PropertyIdRange valueDependencies;      ///< publishing these publishes the value
-        std::function<PropertyState()> state;   ///< empty: always success
-        PropertyIdRange stateDependencies;      ///< publishing these recomputes the state
-        std::function<bool()> visibility;       ///< empty: always visible
-        PropertyIdRange visibilityDependencies; ///< publishing these recomputes the visibility
+        PropertyIdRange valueDependencies{};      ///< publishing these publishes the value
+        std::function<PropertyState()> state{};   ///< empty: always success
+        PropertyIdRange stateDependencies{};      ///< publishing these recomputes the state
+        std::function<bool()> visibility{};       ///< empty: always visible
+        PropertyIdRange visibilityDependencies{}; ///< publishing these recomputes the visibility
         /// Properties of the enclosing container to publish whenever this one is.
-        PropertyIdRange raisedProperties;
+        PropertyIdRange raisedProperties{};
     };
 
     /// A property to update when the value of another one is published.
@@ -98,9 +98,9 @@ public:
 
     /// What a subscriber wants to hear; each may be empty.
     struct SubscriptionCallbacks {
-        PropertyChangedCallback value;
-        std::function<void()> state;
-        std::function<void()> visibility;
+        PropertyChangedCallback value{};
+        std::function<void()> state{};
+        std::function<void()> visibility{};
     };
 
     /// Owns one subscription to a property, until it is reset, destroyed or moved from. Must not
