@@ -33,26 +33,26 @@ struct EditableProperty {
     };
 
     /// Stable name (UTF-8), as in configuration files and on command lines.
-    std::string name;
-    std::wstring displayName;
+    std::string name{};
+    std::wstring displayName{};
     Editor editor = Editor::Text;
     /// State, visibility and change notifications of the property.
-    bindings::PropertyHandle property;
+    bindings::PropertyHandle property{};
     /// The value's text as shown to the user.
-    std::function<std::wstring()> text;
+    std::function<std::wstring()> text{};
     /// Stores the value that the text stands for and publishes the property, or leaves the value
     /// alone and says why the text is no value. Empty: the property is read only.
-    std::function<tl::expected<void, std::wstring>(std::wstring_view)> setText;
+    std::function<tl::expected<void, std::wstring>(std::wstring_view)> setText{};
     /// The texts to choose from, for Editor::Choice.
-    std::vector<std::wstring> choices;
+    std::vector<std::wstring> choices{};
     /// Visits the rows in their order, for Editor::SubElementList.
     std::function<void(const corvane::utils::core::function_ref<void(SubElement&)>&)>
-        forEachSubElement;
+        forEachSubElement{};
     /// Inserts a default row before the given index (the row count: at the end), and publishes
     /// the property; or says why not. Empty: the list is fixed.
-    std::function<tl::expected<void, std::wstring>(std::size_t)> insertSubElement;
+    std::function<tl::expected<void, std::wstring>(std::size_t)> insertSubElement{};
     /// Removes the row at the given index and publishes the property; or says why not.
-    std::function<tl::expected<void, std::wstring>(std::size_t)> removeSubElement;
+    std::function<tl::expected<void, std::wstring>(std::size_t)> removeSubElement{};
 };
 
 } // namespace corvane::workbench::skill

@@ -118,7 +118,7 @@ private:
     /// Whether an import keeps the name that the element has here. The base says no.
     virtual bool preserveExistingNameOnImport() const;
 
-    internal::AbstractElementSupervisor* _supervisor = nullptr;
+    internal::AbstractElementSupervisor* supervisor_ = nullptr;
 };
 
 /// Describes a class of elements. A skill holds one object per element class, which is compared

@@ -14,7 +14,7 @@ public:
     /// Places the element in the tree. The supervisor must outlive the element's use and may be
     /// replaced by attaching another.
     static void attach(Element& element, AbstractElementSupervisor& supervisor) noexcept {
-        element._supervisor = &supervisor;
+        element.supervisor_ = &supervisor;
     }
 
     static void load(Element& element, corvane::utils::json::decoder::Object& object,

@@ -1,0 +1,119 @@
+#include <corvane/workbench/skill/Skill.hpp>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+namespace {
+
+using corvane::workbench::skill::Element;
+using corvane::workbench::skill::Skill;
+using ::testing::ElementsAre;
+
+static_assert(std::is_abstract_v<Skill>);
+static_assert(std::is_abstract_v<Skill::Class>);
+static_assert(std::is_abstract_v<Skill::Class::Registry>);
+static_assert(std::has_virtual_destructor_v<Skill>);
+static_assert(std::has_virtual_destructor_v<Skill::Class>);
+static_assert(std::has_virtual_destructor_v<Skill::Class::Registry>);
+// No data of their own beside the virtual operations.
+static_assert(sizeof(Skill) == sizeof(void*));
+static_assert(sizeof(Skill::Class) == sizeof(void*));
+static_assert(sizeof(Skill::Class::Registry) == sizeof(void*));
+static_assert(!std::is_copy_constructible_v<Skill::Class>);
+
+class EmptySkill final : public Skill {};
+
+class NamedClass final : public Skill::Class {
+public:
+    explicit NamedClass(std::string_view id) : id_(id) {}
+
+    std::string_view id() const override { return id_; }
+    std::wstring displayName() const override { return L"Skill"; }
+    std::string_view version() const override { return "1.0"; }
+    void registerElementClasses(Registry&) const override {}
+    std::unique_ptr<Skill> createSkill() const override { return std::make_unique<EmptySkill>(); }
+
+private:
+    std::string_view id_;
+};
+
+// Constructed before main, like the class object of a skill library.
+const NamedClass staticClass("static");
+
+std::size_t count() {
+    return static_cast<std::size_t>(
+        std::distance(Skill::Class::allSkills().begin(), Skill::Class::allSkills().end()));
+}
+
+std::size_t countOf(const Skill::Class& skillClass) {
+    std::size_t result = 0;
+    for (const Skill::Class& known : Skill::Class::allSkills()) {
+        result += &known == &skillClass ? 1U : 0U;
+    }
+    return result;
+}
+
+TEST(SkillClass, AStaticObjectIsInTheListBeforeMain) {
+    EXPECT_EQ(countOf(staticClass), 1U);
+}
+
+TEST(SkillClass, TheNewestClassComesFirst) {
+    // The list keeps referring to the objects, so they must not end with the test.
+    static const NamedClass first("first");
+    static const NamedClass second("second");
+    static const NamedClass third("third");
+    std::vector<std::string_view> ids;
+    for (const Skill::Class& skillClass : Skill::Class::allSkills()) {
+        ids.push_back(skillClass.id());
+        if (ids.size() == 3) {
+            break;
+        }
+    }
+    EXPECT_THAT(ids, ElementsAre("third", "second", "first"));
+}
+
+TEST(SkillClass, TheListIsAlwaysTheSameObject) {
+    EXPECT_EQ(&Skill::Class::allSkills(), &Skill::Class::allSkills());
+}
+
+TEST(SkillClass, DestroyingAClassLeavesItsEntryInTheList) {
+    // Constructed in memory that stays, so that the entry may still be compared by address.
+    static std::aligned_storage_t<sizeof(NamedClass), alignof(NamedClass)> memory;
+    const std::size_t before = count();
+    auto* skillClass = new (&memory) NamedClass("gone");
+    EXPECT_EQ(count(), before + 1);
+    skillClass->~NamedClass();
+    EXPECT_EQ(count(), before + 1);
+    EXPECT_EQ(&Skill::Class::allSkills().front().get(), static_cast<Skill::Class*>(skillClass));
+    // Leave an object behind whose operations other tests may call.
+    new (&memory) NamedClass("stays");
+}
+
+TEST(SkillClass, MakesItsSkill) {
+    EXPECT_NE(staticClass.createSkill(), nullptr);
+}
+
+// Records which operation runs, to show the order of the virtual operations that callers rely on.
+class OneElementClassRegistry final : public Skill::Class::Registry {
+public:
+    std::vector<const Element::Class*> registered;
+    void registerElementClass(const Element::Class& elementClass) override {
+        registered.push_back(&elementClass);
+    }
+};
+
+TEST(SkillRegistry, ReceivesWhatTheClassHandsOver) {
+    OneElementClassRegistry registry;
+    staticClass.registerElementClasses(registry);
+    EXPECT_TRUE(registry.registered.empty());
+}
+
+} // namespace
