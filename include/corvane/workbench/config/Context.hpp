@@ -84,11 +84,11 @@ public:
     ReferenceKey& operator=(ReferenceKey&& other) noexcept;
     ~ReferenceKey();
 
-    [[nodiscard]] const std::string& text() const& noexcept { return _text; }
-    [[nodiscard]] std::string&& text() && noexcept { return std::move(_text); }
+    [[nodiscard]] const std::string& text() const& noexcept { return text_; }
+    [[nodiscard]] std::string&& text() && noexcept { return std::move(text_); }
 
 private:
-    std::string _text;
+    std::string text_;
 };
 
 } // namespace corvane::workbench::config

@@ -1,0 +1,56 @@
+#include <corvane/utils/json/decoder/Location.hpp>
+#include <corvane/utils/json/decoder/Name.hpp>
+#include <corvane/utils/json/decoder/String.hpp>
+#include <corvane/utils/json/decoder/Value.hpp>
+#include <corvane/workbench/config/Context.hpp>
+#include <corvane/workbench/model/AttributeReference.hpp>
+#include <corvane/workbench/model/ElementReference.hpp>
+#include <corvane/workbench/process/EventReference.hpp>
+#include <corvane/workbench/process/TaskReference.hpp>
+
+namespace corvane::workbench::config {
+
+Context::Context() = default;
+Context::Context(const Context&) = default;
+Context& Context::operator=(const Context&) = default;
+Context::~Context() = default;
+
+void Context::resolve(ReferenceKey key, std::reference_wrapper<model::ElementReference> reference) {
+    resolveElementReference(std::move(key), reference, {});
+}
+
+void Context::resolve(ReferenceKey key,
+                      std::reference_wrapper<model::AttributeReference> reference) {
+    resolveMember(std::move(key), reference.get());
+}
+
+void Context::resolve(ReferenceKey key, std::reference_wrapper<process::EventReference> reference) {
+    resolveMember(std::move(key), reference.get());
+}
+
+void Context::resolve(ReferenceKey key, std::reference_wrapper<process::TaskReference> reference) {
+    resolveMember(std::move(key), reference.get());
+}
+
+void Context::resolveMember(ReferenceKey&& key, model::internal::BasicElementReference& reference) {
+    resolveMemberReference(std::move(key), reference, {});
+}
+
+Context::ReferenceKey::ReferenceKey(corvane::utils::json::decoder::Value& value) {
+    auto string = value.asString();
+    text_.assign(string.begin(), string.end());
+}
+Context::ReferenceKey::ReferenceKey(const corvane::utils::json::decoder::Name& name)
+    : text_(name.text()) {}
+Context::ReferenceKey::ReferenceKey(std::string&& text,
+                                    const corvane::utils::json::decoder::Location&)
+    : text_(std::move(text)) {}
+Context::ReferenceKey::ReferenceKey(std::string_view text, WithoutLocationTag) : text_(text) {}
+
+Context::ReferenceKey::ReferenceKey(const ReferenceKey&) = default;
+Context::ReferenceKey::ReferenceKey(ReferenceKey&&) noexcept = default;
+Context::ReferenceKey& Context::ReferenceKey::operator=(const ReferenceKey&) = default;
+Context::ReferenceKey& Context::ReferenceKey::operator=(ReferenceKey&&) noexcept = default;
+Context::ReferenceKey::~ReferenceKey() = default;
+
+} // namespace corvane::workbench::config
