@@ -77,7 +77,7 @@ public:
 private:
     explicit ImportReference(internal::ElementReferenceData&& data) noexcept;
 
-    internal::ElementReferenceData _data;
+    internal::ElementReferenceData data_;
 };
 
 } // namespace corvane::workbench::model

@@ -49,7 +49,7 @@ public:
     /// user.
     [[nodiscard]] tl::expected<Event, std::wstring> event() const;
     /// How the event is looked up; fixed at construction.
-    [[nodiscard]] EventSearchOptions options() const noexcept { return _options; }
+    [[nodiscard]] EventSearchOptions options() const noexcept { return options_; }
     /// The key as it is now.
     [[nodiscard]] std::string primaryKey() const;
     /// Writes the key as one JSON string.
@@ -58,7 +58,7 @@ public:
     void saveTo(corvane::utils::json::encoder::Object& object, std::string_view name) const;
 
 private:
-    EventSearchOptions _options;
+    EventSearchOptions options_;
 };
 
 /// A reference as plain data: never registered, freely copied, saved with its import prefix. It has
@@ -89,7 +89,7 @@ public:
 private:
     explicit ImportReference(model::internal::ElementReferenceData&& data) noexcept;
 
-    model::internal::ElementReferenceData _data;
+    model::internal::ElementReferenceData data_;
 };
 
 } // namespace corvane::workbench::process

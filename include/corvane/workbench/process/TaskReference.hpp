@@ -77,7 +77,7 @@ public:
 private:
     explicit ImportReference(model::internal::ElementReferenceData&& data) noexcept;
 
-    model::internal::ElementReferenceData _data;
+    model::internal::ElementReferenceData data_;
 };
 
 } // namespace corvane::workbench::process

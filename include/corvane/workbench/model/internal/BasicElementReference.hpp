@@ -35,8 +35,8 @@ public:
     BasicElementReference& operator=(BasicElementReference&& other) noexcept;
     ~BasicElementReference() override;
 
-    [[nodiscard]] const ElementReferenceData& data() const noexcept { return _data; }
-    operator const ElementReferenceData&() const noexcept { return _data; }
+    [[nodiscard]] const ElementReferenceData& data() const noexcept { return data_; }
+    operator const ElementReferenceData&() const noexcept { return data_; }
 
     /// Points the reference at another proxy, keeping suffix and member name.
     void remap(const std::shared_ptr<AbstractCrossReferenceProxy>& proxy);
@@ -66,8 +66,8 @@ private:
     /// Detaches, replaces the data and attaches to the new proxy.
     void replaceData(ElementReferenceData&& data);
 
-    ElementReferenceData _data;
-    AbstractCrossReferenceProxy::Attachment* _token = nullptr;
+    ElementReferenceData data_;
+    AbstractCrossReferenceProxy::Attachment* token_ = nullptr;
 };
 
 } // namespace corvane::workbench::model::internal

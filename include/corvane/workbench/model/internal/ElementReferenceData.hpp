@@ -38,7 +38,7 @@ class AbstractCrossReferenceProxy;
 class CORVANE_WORKBENCH_EXPORT ElementReferenceData {
 public:
     /// An empty reference.
-    ElementReferenceData();
+    ElementReferenceData() noexcept;
     /// A reference to the element that `suffix` names below the proxy's element. The suffix is
     /// empty for the proxy's element itself; otherwise it begins with ".", except below the
     /// invisible root.
@@ -65,11 +65,11 @@ public:
     parseImportReference(std::string_view text) noexcept;
 
     [[nodiscard]] const std::shared_ptr<AbstractCrossReferenceProxy>& proxy() const noexcept {
-        return _proxy;
+        return proxy_;
     }
-    [[nodiscard]] const std::string& suffix() const noexcept { return _suffix; }
+    [[nodiscard]] const std::string& suffix() const noexcept { return suffix_; }
     [[nodiscard]] const std::optional<std::string>& memberName() const noexcept {
-        return _memberName;
+        return memberName_;
     }
     void setProxy(const std::shared_ptr<AbstractCrossReferenceProxy>& proxy) noexcept;
     void setSuffix(std::string&& suffix) noexcept;
@@ -77,7 +77,7 @@ public:
 
     /// Whether there is neither a proxy nor a member name.
     [[nodiscard]] bool empty() const noexcept;
-    [[nodiscard]] bool isImportReference() const noexcept;
+    [[nodiscard]] bool isImportReference() const;
 
     /// The referenced element, or why there is none, in words for the user. A key that runs below a
     /// custom element resolves to the custom element: its children are not tracked.
@@ -102,9 +102,9 @@ private:
 
     static const std::shared_ptr<AbstractCrossReferenceProxy>& importProxy();
 
-    std::shared_ptr<AbstractCrossReferenceProxy> _proxy;
-    std::string _suffix;
-    std::optional<std::string> _memberName;
+    std::shared_ptr<AbstractCrossReferenceProxy> proxy_;
+    std::string suffix_;
+    std::optional<std::string> memberName_;
 };
 
 } // namespace corvane::workbench::model::internal

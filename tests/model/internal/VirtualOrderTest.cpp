@@ -1,0 +1,22 @@
+// The order of a proxy's virtual operations is part of what the workbench relies on.
+#include <corvane/workbench/model/internal/AbstractCrossReferenceProxy.hpp>
+
+#include "virtualPosition.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using corvane::tests::virtualPosition;
+using Proxy = corvane::workbench::model::internal::AbstractCrossReferenceProxy;
+
+TEST(VirtualOrder, OfACrossReferenceProxy) {
+    EXPECT_EQ(virtualPosition(&Proxy::element), 2U);
+    EXPECT_EQ(virtualPosition(&Proxy::referenceCount), 3U);
+    EXPECT_EQ(virtualPosition(&Proxy::attach), 4U);
+    EXPECT_EQ(virtualPosition(&Proxy::detach), 5U);
+    EXPECT_EQ(virtualPosition(&Proxy::primaryKey), 6U);
+    EXPECT_EQ(virtualPosition(&Proxy::save), 7U);
+}
+
+} // namespace
