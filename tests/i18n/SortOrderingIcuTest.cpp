@@ -1,0 +1,76 @@
+// How ICU's comparison differs from that of Windows, and what the user's language changes. The
+// program runs once for each language; the tests for one of them run under that one only.
+#include <corvane/workbench/i18n/SortOrdering.hpp>
+
+#include <gtest/gtest.h>
+
+#include <compare>
+#include <string_view>
+
+namespace {
+
+std::weak_ordering compare(std::wstring_view left, std::wstring_view right) {
+    return corvane::workbench::i18n::SortOrdering()(left, right);
+}
+
+constexpr auto kLess = std::weak_ordering::less;
+constexpr auto kEquivalent = std::weak_ordering::equivalent;
+constexpr auto kGreater = std::weak_ordering::greater;
+
+TEST(SortOrderingIcu, LeadingZerosDoNotCount) {
+    EXPECT_EQ(compare(L"file01", L"file1"), kEquivalent);
+    EXPECT_EQ(compare(L"file002", L"file1"), kGreater);
+    EXPECT_EQ(compare(L"file01a", L"file1b"), kLess);
+}
+
+TEST(SortOrderingIcu, HyphensAndApostrophesCountLikeOtherCharacters) {
+    EXPECT_EQ(compare(L"co-op", L"coop"), kLess);
+    EXPECT_EQ(compare(L"co-z", L"coa"), kLess);
+    EXPECT_EQ(compare(L"it's", L"its"), kLess);
+}
+
+TEST(SortOrderingIcu, FullWidthLettersAreEquivalentToOrdinaryOnes) {
+    EXPECT_EQ(compare(L"\uFF41", L"a"), kEquivalent);
+}
+
+TEST(SortOrderingIcu, ComposedAndDecomposedLettersAreEquivalent) {
+    EXPECT_EQ(compare(L"\u00FC", L"u\u0308"), kEquivalent);
+}
+
+TEST(SortOrderingIcu, ALoneSurrogateIsComparedAndDoesNotFail) {
+    const wchar_t lone = 0xD83D;
+    EXPECT_EQ(compare(std::wstring_view(&lone, 1), L"a"), kGreater);
+    EXPECT_EQ(compare(std::wstring_view(&lone, 1), std::wstring_view(&lone, 1)), kEquivalent);
+}
+
+// The same for all languages but Turkish.
+TEST(SortOrderingOutsideTurkish, TheTwoLettersIAreOneLetter) {
+    EXPECT_EQ(compare(L"item", L"ITEM"), kEquivalent);
+    EXPECT_EQ(compare(L"IB", L"ic"), kLess);
+    EXPECT_EQ(compare(L"ib", L"IC"), kLess);
+}
+
+TEST(SortOrderingOutsideTurkish, UmlautsSortWithTheirLetters) {
+    EXPECT_EQ(compare(L"Mueller", L"M\u00FCller"), kLess);
+    EXPECT_EQ(compare(L"Muller", L"M\u00FCller"), kLess);
+    EXPECT_EQ(compare(L"M\u00FCller", L"Mulles"), kLess);
+    EXPECT_EQ(compare(L"\u00D6l", L"Ost"), kLess);
+    EXPECT_EQ(compare(L"STRASSE", L"Stra\u00DFe"), kLess);
+    EXPECT_EQ(compare(L"Stra\u00DFe", L"Strat"), kLess);
+}
+
+TEST(SortOrderingInTurkish, TheDottedAndTheDotlessIAreDifferentLetters) {
+    EXPECT_EQ(compare(L"i", L"I"), kGreater);
+    EXPECT_EQ(compare(L"i", L"\u0130"), kEquivalent);
+    EXPECT_EQ(compare(L"\u0131", L"I"), kEquivalent);
+    EXPECT_EQ(compare(L"IZ", L"ia"), kLess);
+}
+
+TEST(SortOrderingInTurkish, LettersWithMarksComeAfterAllOfTheirLetter) {
+    EXPECT_EQ(compare(L"\u00F6a", L"oz"), kGreater);
+    EXPECT_EQ(compare(L"\u00E7a", L"cz"), kGreater);
+    EXPECT_EQ(compare(L"\u015Fa", L"sz"), kGreater);
+    EXPECT_EQ(compare(L"\u00F6a", L"pa"), kLess);
+}
+
+} // namespace

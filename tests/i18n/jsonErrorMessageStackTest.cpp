@@ -1,0 +1,96 @@
+// Long messages on a small stack. POSIX only: the standard library cannot ask for a stack size.
+#include <corvane/workbench/i18n/jsonErrorMessage.hpp>
+
+#include <gtest/gtest.h>
+
+#include <pthread.h>
+
+#include <cstddef>
+#include <exception>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+constexpr std::size_t kTenMegabytes = 10'000'000;
+
+// Holds its message once; a copy of ten megabytes more would only cost time.
+class LongError : public std::exception {
+public:
+    explicit LongError(std::string text) : _text(std::move(text)) {}
+    [[nodiscard]] const char* what() const noexcept override { return _text.c_str(); }
+
+private:
+    std::string _text;
+};
+
+struct Task {
+    LongError error;
+    std::wstring result;
+};
+
+void* run(void* argument) {
+    Task& task = *static_cast<Task*>(argument);
+    task.result = corvane::workbench::i18n::jsonErrorMessage(task.error);
+    return nullptr;
+}
+
+std::wstring messageOnASmallStack(std::string text) {
+    Task task{LongError(std::move(text)), {}};
+    pthread_attr_t attributes;
+    EXPECT_EQ(pthread_attr_init(&attributes), 0);
+    EXPECT_EQ(pthread_attr_setstacksize(&attributes, 512 * 1024), 0);
+    pthread_t thread{};
+    EXPECT_EQ(pthread_create(&thread, &attributes, run, &task), 0);
+    EXPECT_EQ(pthread_join(thread, nullptr), 0);
+    EXPECT_EQ(pthread_attr_destroy(&attributes), 0);
+    return std::move(task.result);
+}
+
+TEST(JsonErrorMessageOnASmallStack, ALongTextAfterTheLineIsKeptWhole) {
+    const std::wstring result =
+        messageOnASmallStack("error (line 3): " + std::string(kTenMegabytes, 'x'));
+    EXPECT_EQ(result.size(), 17 + kTenMegabytes);
+    EXPECT_TRUE(result.starts_with(L"Error on line 3: xxx"));
+}
+
+TEST(JsonErrorMessageOnASmallStack, ALongTextBeforeTheLineIsDropped) {
+    EXPECT_EQ(messageOnASmallStack(std::string(kTenMegabytes, '(') + "(line 3): end"),
+              L"Error on line 3: end");
+}
+
+TEST(JsonErrorMessageOnASmallStack, ALongMessageWithoutALineIsKeptWhole) {
+    EXPECT_EQ(messageOnASmallStack(std::string(kTenMegabytes, 'x')).size(), kTenMegabytes);
+}
+
+TEST(JsonErrorMessageOnASmallStack, ManyBlanksBeforeTheNumberAreSkipped) {
+    EXPECT_EQ(messageOnASmallStack("(line" + std::string(kTenMegabytes, ' ') + "3): end"),
+              L"Error on line 3: end");
+}
+
+TEST(JsonErrorMessageOnASmallStack, ManyBlanksAfterTheColonAreSkipped) {
+    EXPECT_EQ(messageOnASmallStack("(line 3):" + std::string(kTenMegabytes, '\t') + "end"),
+              L"Error on line 3: end");
+}
+
+TEST(JsonErrorMessageOnASmallStack, ManyLeadingZerosAreSkipped) {
+    EXPECT_EQ(messageOnASmallStack("(line " + std::string(kTenMegabytes, '0') + "3): end"),
+              L"Error on line 3: end");
+}
+
+TEST(JsonErrorMessageOnASmallStack, ANumberOfManyDigitsIsNoLine) {
+    EXPECT_EQ(messageOnASmallStack("(line " + std::string(kTenMegabytes, '9') + "): end").size(),
+              kTenMegabytes + 12);
+}
+
+TEST(JsonErrorMessageOnASmallStack, ManyPlacesThatOnlyLookLikeALineAreSkipped) {
+    constexpr std::string_view kPiece = "(line 1";
+    std::string text;
+    for (int count = 0; count < 100'000; ++count) {
+        text += kPiece;
+    }
+    EXPECT_EQ(messageOnASmallStack(text + "): end"), L"Error on line 1: end");
+}
+
+} // namespace
