@@ -23,6 +23,16 @@ TEST(SortOrderingIcu, LeadingZerosDoNotCount) {
     EXPECT_EQ(compare(L"file01a", L"file1b"), kLess);
 }
 
+TEST(SortOrderingIcu, RunsOfDigitsOfAnyLengthAreComparedByTheirValue) {
+    EXPECT_EQ(compare(L"a999999999999999999998", L"a999999999999999999999"), kLess);
+    EXPECT_EQ(compare(L"a99999999999999999999", L"a100000000000000000000"), kLess);
+}
+
+TEST(SortOrderingIcu, SymbolsOutsideTheBasicPlaneComeBeforeLetters) {
+    const wchar_t pair[] = {0xD83D, 0xDE00};
+    EXPECT_EQ(compare(std::wstring_view(pair, 2), L"a"), kLess);
+}
+
 TEST(SortOrderingIcu, HyphensAndApostrophesCountLikeOtherCharacters) {
     EXPECT_EQ(compare(L"co-op", L"coop"), kLess);
     EXPECT_EQ(compare(L"co-z", L"coa"), kLess);
