@@ -48,28 +48,28 @@ Collator makeCollator() {
 // name fits into the object itself.
 class IcuText {
 public:
-    explicit IcuText(std::wstring_view text) : _length(comparedLength(text.size())) {
-        const auto count = static_cast<std::size_t>(_length);
-        UChar* target = _short.data();
-        if (count > _short.size()) {
-            _long.resize(count);
-            target = _long.data();
+    explicit IcuText(std::wstring_view text) : length_(comparedLength(text.size())) {
+        const auto count = static_cast<std::size_t>(length_);
+        UChar* target = short_.data();
+        if (count > short_.size()) {
+            long_.resize(count);
+            target = long_.data();
         }
         std::ranges::transform(text.substr(0, count), target,
                                [](wchar_t codeUnit) { return static_cast<UChar>(codeUnit); });
-        _data = target;
+        data_ = target;
     }
     IcuText(const IcuText&) = delete;
     IcuText& operator=(const IcuText&) = delete;
 
-    [[nodiscard]] const UChar* data() const noexcept { return _data; }
-    [[nodiscard]] std::int32_t length() const noexcept { return _length; }
+    [[nodiscard]] const UChar* data() const noexcept { return data_; }
+    [[nodiscard]] std::int32_t length() const noexcept { return length_; }
 
 private:
-    std::int32_t _length;
-    std::array<UChar, 256> _short;
-    std::u16string _long;
-    const UChar* _data = nullptr;
+    std::int32_t length_;
+    std::array<UChar, 256> short_;
+    std::u16string long_;
+    const UChar* data_ = nullptr;
 };
 
 } // namespace

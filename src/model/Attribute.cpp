@@ -38,7 +38,7 @@ const std::string Attribute::kOffset = "offset";
 
 Attribute::Attribute(std::string&& name, Access access, data::DataType dataType,
                      Directions ioDirections) noexcept
-    : _changeEvent(std::move(name), ioDirections), _access(access), _dataType(dataType) {}
+    : changeEvent_(std::move(name), ioDirections), access_(access), dataType_(dataType) {}
 
 Attribute::Attribute(const Attribute& other) = default;
 Attribute::Attribute(Attribute&& other) noexcept = default;
@@ -47,38 +47,38 @@ Attribute& Attribute::operator=(Attribute&& other) noexcept = default;
 Attribute::~Attribute() = default;
 
 std::string_view Attribute::name() const noexcept {
-    return _changeEvent.name();
+    return changeEvent_.name();
 }
 
 Directions Attribute::ioDirections() const noexcept {
-    return _changeEvent.ioDirections();
+    return changeEvent_.ioDirections();
 }
 
 Attribute::Access Attribute::access() const noexcept {
-    return _access;
+    return access_;
 }
 
 const data::DataType& Attribute::dataType() const noexcept {
-    return _dataType;
+    return dataType_;
 }
 
 const process::Event& Attribute::changeEvent() const& noexcept {
-    return _changeEvent;
+    return changeEvent_;
 }
 
 process::Event&& Attribute::changeEvent() && noexcept {
-    return std::move(_changeEvent);
+    return std::move(changeEvent_);
 }
 
 bool Attribute::setAccess(Access access) noexcept {
-    return std::exchange(_access, access) != access;
+    return std::exchange(access_, access) != access;
 }
 
 bool Attribute::setDataType(const data::DataType& dataType) noexcept {
-    if (_dataType == dataType) {
+    if (dataType_ == dataType) {
         return false;
     }
-    _dataType = dataType;
+    dataType_ = dataType;
     return true;
 }
 

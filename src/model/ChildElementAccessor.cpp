@@ -22,11 +22,11 @@ public:
 
 } // namespace
 
-ChildElementAccessor::ChildElementAccessor() : _collection(&emptyCollection()), _count(0) {}
+ChildElementAccessor::ChildElementAccessor() : collection_(&emptyCollection()), count_(0) {}
 
 ChildElementAccessor::ChildElementAccessor(InternalConstructorTag,
                                            const internal::AbstractChildElementAccessor& collection)
-    : _collection(&collection), _count(collection.elementCount()) {}
+    : collection_(&collection), count_(collection.elementCount()) {}
 
 const internal::AbstractChildElementAccessor& ChildElementAccessor::emptyCollection() {
     static const EmptyCollection collection;
@@ -34,23 +34,23 @@ const internal::AbstractChildElementAccessor& ChildElementAccessor::emptyCollect
 }
 
 const Element& ChildElementAccessor::at(std::size_t index) const {
-    if (index >= _count) {
+    if (index >= count_) {
         throw std::out_of_range(std::format(
-            "child element index {} out of range: element has {} child(ren)", index, _count));
+            "child element index {} out of range: element has {} child(ren)", index, count_));
     }
-    return _collection->elementAt(index);
+    return collection_->elementAt(index);
 }
 
 const Element& ChildElementAccessor::operator[](std::size_t index) const {
-    return _collection->elementAt(index);
+    return collection_->elementAt(index);
 }
 
 const Element& ChildElementAccessor::front() const {
-    return _collection->elementAt(0);
+    return collection_->elementAt(0);
 }
 
 const Element& ChildElementAccessor::back() const {
-    return _collection->elementAt(_count - 1);
+    return collection_->elementAt(count_ - 1);
 }
 
 ChildElementAccessor::Iterator ChildElementAccessor::begin() const noexcept {
@@ -58,7 +58,7 @@ ChildElementAccessor::Iterator ChildElementAccessor::begin() const noexcept {
 }
 
 ChildElementAccessor::Iterator ChildElementAccessor::end() const noexcept {
-    return {*this, _count};
+    return {*this, count_};
 }
 
 ChildElementAccessor::Iterator ChildElementAccessor::cbegin() const noexcept {

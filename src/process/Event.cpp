@@ -9,7 +9,7 @@ const Event Event::kConnected("connected", {});
 const Event Event::kDisconnected("disconnected", {});
 
 Event::Event(std::string&& name, corvane::utils::core::Flags<io::Direction> ioDirections) noexcept
-    : _name(std::move(name)), _ioDirections(ioDirections) {}
+    : name_(std::move(name)), ioDirections_(ioDirections) {}
 
 Event::Event(const Event& other) = default;
 Event::Event(Event&& other) noexcept = default;
@@ -18,15 +18,15 @@ Event& Event::operator=(Event&& other) noexcept = default;
 Event::~Event() = default;
 
 std::string_view Event::name() const& noexcept {
-    return _name;
+    return name_;
 }
 
 std::string&& Event::name() && noexcept {
-    return std::move(_name);
+    return std::move(name_);
 }
 
 corvane::utils::core::Flags<io::Direction> Event::ioDirections() const noexcept {
-    return _ioDirections;
+    return ioDirections_;
 }
 
 } // namespace corvane::workbench::process

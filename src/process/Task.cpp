@@ -6,7 +6,7 @@ namespace corvane::workbench::process {
 
 const Task Task::kReconnect("reconnect");
 
-Task::Task(std::string&& name) noexcept : _name(std::move(name)) {}
+Task::Task(std::string&& name) noexcept : name_(std::move(name)) {}
 
 Task::Task(const Task& other) = default;
 Task::Task(Task&& other) noexcept = default;
@@ -15,7 +15,7 @@ Task& Task::operator=(Task&& other) noexcept = default;
 Task::~Task() = default;
 
 std::string_view Task::name() const noexcept {
-    return _name;
+    return name_;
 }
 
 } // namespace corvane::workbench::process

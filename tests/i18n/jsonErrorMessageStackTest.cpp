@@ -18,11 +18,11 @@ constexpr std::size_t kTenMegabytes = 10'000'000;
 // Holds its message once; a copy of ten megabytes more would only cost time.
 class LongError : public std::exception {
 public:
-    explicit LongError(std::string text) : _text(std::move(text)) {}
-    [[nodiscard]] const char* what() const noexcept override { return _text.c_str(); }
+    explicit LongError(std::string text) : text_(std::move(text)) {}
+    [[nodiscard]] const char* what() const noexcept override { return text_.c_str(); }
 
 private:
-    std::string _text;
+    std::string text_;
 };
 
 struct Task {

@@ -32,8 +32,8 @@ public:
 class FakeSkillElement : public workbench::skill::Element {
 public:
     FakeSkillElement(const workbench::model::Element& element, const Class& elementClass)
-        : _supervisor(element, elementClass) {
-        workbench::skill::internal::ElementAccess::attach(*this, _supervisor);
+        : supervisor_(element, elementClass) {
+        workbench::skill::internal::ElementAccess::attach(*this, supervisor_);
     }
 
     void forEachEditableProperty(
@@ -46,18 +46,18 @@ private:
     class Supervisor : public workbench::skill::internal::AbstractElementSupervisor {
     public:
         Supervisor(const workbench::model::Element& element, const Class& elementClass)
-            : _element(element), _elementClass(elementClass) {}
+            : element_(element), elementClass_(elementClass) {}
 
-        [[nodiscard]] const workbench::model::Element& element() const override { return _element; }
-        [[nodiscard]] const Class& elementClass() const override { return _elementClass; }
+        [[nodiscard]] const workbench::model::Element& element() const override { return element_; }
+        [[nodiscard]] const Class& elementClass() const override { return elementClass_; }
         void publishElementMembers() override {}
 
     private:
-        const workbench::model::Element& _element;
-        const Class& _elementClass;
+        const workbench::model::Element& element_;
+        const Class& elementClass_;
     };
 
-    Supervisor _supervisor;
+    Supervisor supervisor_;
 };
 
 } // namespace corvane::tests

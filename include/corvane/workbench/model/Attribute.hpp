@@ -78,9 +78,9 @@ public:
     friend bool operator==(const Attribute&, const Attribute&) = default;
 
 private:
-    process::Event _changeEvent;
-    Access _access;
-    data::DataType _dataType;
+    process::Event changeEvent_;
+    Access access_;
+    data::DataType dataType_;
 };
 
 } // namespace corvane::workbench::model

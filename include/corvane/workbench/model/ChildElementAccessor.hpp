@@ -37,8 +37,8 @@ public:
     /// No children.
     ChildElementAccessor();
 
-    [[nodiscard]] std::size_t size() const noexcept { return _count; }
-    [[nodiscard]] bool empty() const noexcept { return _count == 0; }
+    [[nodiscard]] std::size_t size() const noexcept { return count_; }
+    [[nodiscard]] bool empty() const noexcept { return count_ == 0; }
 
     /// Throws std::out_of_range, with the index and the number of children in its text, when
     /// `index` is not below size().
@@ -76,8 +76,8 @@ private:
     // The collection of those accessors that have none: one for the whole process.
     [[nodiscard]] static const internal::AbstractChildElementAccessor& emptyCollection();
 
-    const internal::AbstractChildElementAccessor* _collection;
-    std::size_t _count;
+    const internal::AbstractChildElementAccessor* collection_;
+    std::size_t count_;
 };
 
 /// A random-access iterator over the children. It is valid as long as the accessor that it came
@@ -93,7 +93,7 @@ public:
     /// An iterator that can only be assigned to.
     Iterator() = default;
 
-    [[nodiscard]] reference operator*() const { return (*_accessor)[_index]; }
+    [[nodiscard]] reference operator*() const { return (*accessor_)[index_]; }
     [[nodiscard]] pointer operator->() const { return std::addressof(**this); }
     [[nodiscard]] reference operator[](difference_type offset) const { return *(*this + offset); }
 
@@ -112,11 +112,11 @@ public:
     }
 
     Iterator& operator+=(difference_type offset) noexcept {
-        _index += static_cast<std::size_t>(offset);
+        index_ += static_cast<std::size_t>(offset);
         return *this;
     }
     Iterator& operator-=(difference_type offset) noexcept {
-        _index -= static_cast<std::size_t>(offset);
+        index_ -= static_cast<std::size_t>(offset);
         return *this;
     }
 
@@ -131,22 +131,22 @@ public:
     }
     [[nodiscard]] friend difference_type operator-(const Iterator& left,
                                                    const Iterator& right) noexcept {
-        return static_cast<difference_type>(left._index - right._index);
+        return static_cast<difference_type>(left.index_ - right.index_);
     }
 
     friend bool operator==(const Iterator&, const Iterator&) noexcept = default;
     friend std::strong_ordering operator<=>(const Iterator& left, const Iterator& right) noexcept {
-        return left._index <=> right._index;
+        return left.index_ <=> right.index_;
     }
 
 private:
     friend class ChildElementAccessor;
 
     Iterator(const ChildElementAccessor& accessor, std::size_t index) noexcept
-        : _accessor(&accessor), _index(index) {}
+        : accessor_(&accessor), index_(index) {}
 
-    const ChildElementAccessor* _accessor = nullptr;
-    std::size_t _index = 0;
+    const ChildElementAccessor* accessor_ = nullptr;
+    std::size_t index_ = 0;
 };
 
 } // namespace corvane::workbench::model

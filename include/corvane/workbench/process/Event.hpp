@@ -40,8 +40,8 @@ public:
     friend bool operator==(const Event&, const Event&) = default;
 
 private:
-    std::string _name;
-    corvane::utils::core::Flags<io::Direction> _ioDirections;
+    std::string name_;
+    corvane::utils::core::Flags<io::Direction> ioDirections_;
 };
 
 } // namespace corvane::workbench::process

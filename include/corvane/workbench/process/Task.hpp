@@ -30,7 +30,7 @@ public:
     friend bool operator==(const Task&, const Task&) = default;
 
 private:
-    std::string _name;
+    std::string name_;
 };
 
 } // namespace corvane::workbench::process
