@@ -74,7 +74,7 @@ public:
 
     /// A property to update when the value of another one is published.
     struct Dependency {
-        PropertyId property;
+        PropertyId property{};
         bool updatesValue = false;
         bool updatesState = false;
         bool updatesVisibility = false;
