@@ -768,7 +768,7 @@ TEST(PropertyController, AssigningLeavesTheTargetUnchanged) {
 TEST(PropertyController, DestroyingItCallsNoCallbackAndNotifiesNoContainer) {
     Trace trace;
     TestContainer owner("owner", trace);
-    auto witness = std::make_shared<int>(0);
+    const auto witness = std::make_shared<int>(0);
     {
         TestController controller([&](Context& context) {
             context.configure(kA, {.state = [witness] { return failure(); },
@@ -778,9 +778,9 @@ TEST(PropertyController, DestroyingItCallsNoCallbackAndNotifiesNoContainer) {
         controller.setEnclosingPropertyContainer(owner, {});
         EXPECT_EQ(owner.propertyErrorCount(), 1U);
         (void)trace.take();
-        EXPECT_EQ(witness.use_count(), 4);
+        EXPECT_EQ(witness.use_count(), 3);
     }
-    EXPECT_EQ(witness.use_count(), 2);
+    EXPECT_EQ(witness.use_count(), 1);
     EXPECT_EQ(trace.take(), "");
     EXPECT_EQ(owner.propertyErrorCount(), 1U);
     EXPECT_TRUE(owner.raised.empty());
