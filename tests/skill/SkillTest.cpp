@@ -3,9 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <functional>
 #include <iterator>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -86,15 +88,15 @@ TEST(SkillClass, TheListIsAlwaysTheSameObject) {
 
 TEST(SkillClass, DestroyingAClassLeavesItsEntryInTheList) {
     // Constructed in memory that stays, so that the entry may still be compared by address.
-    static std::aligned_storage_t<sizeof(NamedClass), alignof(NamedClass)> memory;
+    alignas(NamedClass) static std::byte memory[sizeof(NamedClass)];
     const std::size_t before = count();
-    auto* skillClass = new (&memory) NamedClass("gone");
+    auto* skillClass = new (static_cast<void*>(memory)) NamedClass("gone");
     EXPECT_EQ(count(), before + 1);
     skillClass->~NamedClass();
     EXPECT_EQ(count(), before + 1);
     EXPECT_EQ(&Skill::Class::allSkills().front().get(), static_cast<Skill::Class*>(skillClass));
     // Leave an object behind whose operations other tests may call.
-    new (&memory) NamedClass("stays");
+    new (static_cast<void*>(memory)) NamedClass("stays");
 }
 
 TEST(SkillClass, MakesItsSkill) {
