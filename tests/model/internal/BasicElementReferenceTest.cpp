@@ -32,6 +32,8 @@ using ::testing::UnorderedElementsAre;
 
 static_assert(std::is_base_of_v<CrossReferenceController, BasicElementReference>);
 static_assert(std::has_virtual_destructor_v<BasicElementReference>);
+static_assert(sizeof(BasicElementReference) ==
+              sizeof(CrossReferenceController) + sizeof(ElementReferenceData) + sizeof(void*));
 static_assert(std::is_nothrow_move_constructible_v<BasicElementReference>);
 static_assert(std::is_nothrow_move_assignable_v<BasicElementReference>);
 

@@ -5,8 +5,8 @@
 #include <corvane/workbench/model/internal/AbstractCrossReferenceProxy.hpp>
 
 #include <algorithm>
-#include <format>
 #include <memory>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -18,75 +18,87 @@ class RecordingProxy final : public workbench::model::internal::AbstractCrossRef
 public:
     RecordingProxy(std::string key, std::vector<std::string>& calls,
                    workbench::model::Element* element = nullptr)
-        : _key(std::move(key)), _calls(calls), _element(element) {}
+        : key_(std::move(key)), calls_(calls), element_(element) {}
 
     tl::expected<std::reference_wrapper<workbench::model::Element>, std::wstring>
     element() const override {
-        if (_element == nullptr) {
+        if (element_ == nullptr) {
             return tl::unexpected(std::wstring(L"no element"));
         }
-        return *_element;
+        return *element_;
     }
-    std::size_t referenceCount() const override { return _records.size(); }
+    std::size_t referenceCount() const override { return records_.size(); }
     Attachment* attach(workbench::model::internal::BasicElementReference& reference) override {
         if (failsToAttach) {
-            _calls.push_back(_key + ".attach throws");
+            write("attach throws");
             throw std::runtime_error("attach");
         }
         if (keepsNoRecords) {
-            _calls.push_back(_key + ".attach -> null");
+            write("attach -> null");
             return nullptr;
         }
-        _records.push_back(std::make_unique<Record>());
-        Record& record = *_records.back();
-        record.reference = &reference;
-        record.number = ++_lastNumber;
-        _calls.push_back(std::format("{}.attach -> {}", _key, record.number));
-        return &record;
+        auto record = std::make_unique<Record>();
+        record->reference = &reference;
+        record->number = ++lastNumber_;
+        records_.push_back(std::move(record));
+        write("attach -> ", records_.back()->number);
+        return records_.back().get();
     }
     void detach(Attachment* token) noexcept override {
         if (token == nullptr) {
-            _calls.push_back(_key + ".detach(null)");
+            write("detach(null)");
             return;
         }
-        const auto record = std::find_if(_records.begin(), _records.end(),
+        const auto record = std::find_if(records_.begin(), records_.end(),
                                          [&](const auto& r) { return r.get() == token; });
-        if (record == _records.end()) {
-            _calls.push_back(_key + ".detach(unknown)");
+        if (record == records_.end()) {
+            write("detach(unknown)");
             return;
         }
-        _calls.push_back(std::format("{}.detach({})", _key, (*record)->number));
-        _records.erase(record);
+        write("detach(", (*record)->number, ")");
+        records_.erase(record);
     }
-    std::string primaryKey() const override { return _key; }
+    std::string primaryKey() const override { return key_; }
     void save(corvane::utils::json::encoder::Value& value, std::string_view suffix,
               std::optional<std::string_view> memberName) const override {
-        writeKey(value, "", _key + std::string(suffix), memberName);
+        writeKey(value, "", key_ + std::string(suffix), memberName);
     }
 
     /// The addresses that the records hold, in the order of registration.
     std::vector<const workbench::model::internal::BasicElementReference*> registered() const {
         std::vector<const workbench::model::internal::BasicElementReference*> result;
-        for (const auto& record : _records) {
+        for (const auto& record : records_) {
             result.push_back(record->reference);
         }
         return result;
     }
-    void rename(std::string key) { _key = std::move(key); }
+    void rename(std::string key) { key_ = std::move(key); }
 
     bool failsToAttach = false;
     bool keepsNoRecords = false;
+    /// For tests that let memory run out: writing down takes memory, and detach must not fail.
+    bool writesCallsDown = true;
 
 private:
     struct Record : Attachment {
         int number = 0;
     };
 
-    std::string _key;
-    std::vector<std::string>& _calls;
-    workbench::model::Element* _element;
-    std::vector<std::unique_ptr<Record>> _records;
-    int _lastNumber = 0;
+    template <class... Parts>
+    void write(const Parts&... parts) {
+        if (writesCallsDown) {
+            std::ostringstream text;
+            text << key_ << ".";
+            (text << ... << parts);
+            calls_.push_back(text.str());
+        }
+    }
+
+    std::string key_;
+    std::vector<std::string>& calls_;
+    workbench::model::Element* element_;
+    std::vector<std::unique_ptr<Record>> records_;
+    int lastNumber_ = 0;
 };
 
 } // namespace corvane::tests
