@@ -2,6 +2,7 @@
 
 #include "../FakeElement.hpp"
 #include "RecordingProxy.hpp"
+#include "everyShortText.hpp"
 #include "savedText.hpp"
 
 #include <corvane/workbench/process/EventSearchOptions.hpp>
@@ -11,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -471,6 +473,44 @@ TEST_F(ElementReferenceDataTest, ResolvingChangesNothing) {
     EXPECT_THAT(data.memberName(), Optional(Eq("[")));
     EXPECT_EQ(data.proxy(), plantProxy);
     EXPECT_THAT(calls, IsEmpty());
+}
+
+// Every short text, judged by expressions that say which ones are well formed.
+
+TEST_F(ElementReferenceDataTest, EveryShortSuffixIsNamedOrRefusedByTheGrammar) {
+    const std::regex wellFormed(R"(^([^.\[][^.]*|\[[^\]]+\](?=\.|$)))");
+    corvane::tests::forEveryShortText(5, [&](const std::string& suffix) {
+        if (suffix.empty()) {
+            return;
+        }
+        std::smatch component;
+        const std::wstring topLevel = below(rootProxy, suffix).element().error();
+        if (std::regex_search(suffix, component, wellFormed)) {
+            const std::string name = component[1];
+            EXPECT_EQ(topLevel, L"the element “" + std::wstring(name.begin(), name.end()) +
+                                    L"” does not exist")
+                << suffix;
+        } else {
+            EXPECT_EQ(topLevel.find(L"does not exist"), std::wstring::npos) << suffix;
+        }
+        const std::wstring child = below(plantProxy, "." + suffix).element().error();
+        if (!component.empty()) {
+            const std::string name = component[1];
+            EXPECT_EQ(child, L"the element “plant” does not have a child named “" +
+                                 std::wstring(name.begin(), name.end()) + L"”")
+                << suffix;
+        } else {
+            EXPECT_EQ(child.find(L"does not have a child"), std::wstring::npos) << suffix;
+        }
+    });
+}
+
+TEST_F(ElementReferenceDataTest, EveryShortMemberNameIsTakenOrRefusedByTheGrammar) {
+    const std::regex wellFormed(R"([^\[].*|\[[^\]]+\])");
+    corvane::tests::forEveryShortText(5, [&](const std::string& name) {
+        const ElementReferenceData data = below(customProxy, "", name);
+        EXPECT_EQ(data.attribute().has_value(), std::regex_match(name, wellFormed)) << name;
+    });
 }
 
 } // namespace

@@ -1,5 +1,8 @@
 #include <corvane/workbench/model/internal/keys.hpp>
 
+#include "everyShortText.hpp"
+#include "naiveKeys.hpp"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -158,6 +161,31 @@ TEST(SplitMemberKey, TheOwningFormKeepsAnEmptyMember) {
         splitMemberKey(std::string("a."));
     EXPECT_EQ(parts.first, "a");
     EXPECT_THAT(parts.second, Optional(Eq("")));
+}
+
+TEST(SplitMemberKey, EveryShortKeyIsSplitAsComponentByComponent) {
+    std::size_t texts = 0;
+    corvane::tests::forEveryShortText(7, [&](const std::string& key) {
+        ++texts;
+        const auto [element, member] = corvane::tests::naiveSplit(key);
+        const auto views = splitMemberKey(std::string_view(key));
+        const auto strings = splitMemberKey(std::string(key));
+        EXPECT_TRUE(views.first == element && views.second == member) << key;
+        EXPECT_TRUE(strings.first == element && strings.second == member) << key;
+    });
+    EXPECT_EQ(texts, 21'845U);
+}
+
+TEST(ParseKeyComponent, EveryShortKeyIsWalkedComponentByComponent) {
+    corvane::tests::forEveryShortText(7, [](const std::string& text) {
+        const std::string_view key = text;
+        auto start = key.begin();
+        for (const std::string& component : corvane::tests::naiveComponents(key)) {
+            const auto end = parseKeyComponent(key, start);
+            EXPECT_EQ(std::string_view(start, end), component) << key;
+            start = end == key.end() ? end : end + 1;
+        }
+    });
 }
 
 } // namespace
