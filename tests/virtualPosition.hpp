@@ -1,7 +1,7 @@
 #pragma once
 
 // Where a virtual operation stands among those of its class, read from a pointer to it. Only some
-// binary interfaces are known here; tests of an order are compiled where kVirtualPositionsKnown.
+// binary interfaces are known here; where kVirtualPositionsKnown is false, tests of an order skip.
 
 #include <bit>
 #include <cstddef>

@@ -111,7 +111,10 @@ TEST(Context, AMovedKeyArrivesInTheSameMemory) {
     EXPECT_EQ(context.address, address);
 }
 
-TEST(Context, VirtualOrder) {
+TEST(Context, ItsOperationsFollowItsDestructorInTheFixedOrder) {
+    if (!corvane::tests::kVirtualPositionsKnown) {
+        GTEST_SKIP() << "the binary interface is not known";
+    }
     EXPECT_EQ(virtualPosition(&RecordingContext::resolveElementReference), 2U);
     EXPECT_EQ(virtualPosition(&RecordingContext::resolveMemberReference), 3U);
 }
