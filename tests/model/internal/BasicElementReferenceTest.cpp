@@ -126,6 +126,15 @@ TEST_F(BasicElementReferenceTest, AMovedFromReferenceCanBeUsedAgain) {
     EXPECT_THAT(pump->registered(), ElementsAre(&target));
 }
 
+TEST_F(BasicElementReferenceTest, MovingAMovedFromReferenceLeavesTheRegistrationWhereItWent) {
+    BasicElementReference source(to(pump));
+    const BasicElementReference target(std::move(source));
+    BasicElementReference second(std::move(source));
+    source = std::move(second);
+    EXPECT_THAT(pump->registered(), ElementsAre(&target));
+    EXPECT_THAT(takeCalls(), ElementsAre("pump.attach -> 1"));
+}
+
 TEST_F(BasicElementReferenceTest, MoveAssignmentEndsTheOwnRegistrationAndTakesTheOther) {
     BasicElementReference target(to(tank, ".level"));
     BasicElementReference source(to(pump, ".valve", "state"));
@@ -341,6 +350,18 @@ TEST_F(BasicElementReferenceTest, AFailedAssignmentLeavesTheReferenceEmptyAndUnr
         EXPECT_EQ(tank.use_count(), 2);
     }
     EXPECT_THAT(calls, IsEmpty());
+}
+
+TEST_F(BasicElementReferenceTest, AReferenceIsMovedSafelyAfterAFailedAssignment) {
+    tank->failsToAttach = true;
+    BasicElementReference reference(to(pump));
+    EXPECT_THROW(reference = to(tank), std::runtime_error);
+    takeCalls();
+    // The record of the ended registration is gone and must not be written to.
+    BasicElementReference moved(std::move(reference));
+    reference = std::move(moved);
+    EXPECT_THAT(calls, IsEmpty());
+    EXPECT_TRUE(reference.data().empty());
 }
 
 TEST_F(BasicElementReferenceTest, AFailedRemapOrResolveLeavesTheReferenceEmptyAndUnregistered) {
