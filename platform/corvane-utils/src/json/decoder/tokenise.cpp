@@ -8,9 +8,11 @@
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 // The parser recurses with the depth of the text, so its frames must be small.
@@ -33,6 +35,13 @@ namespace {
 
 namespace parsing = boost::json;
 
+constexpr std::string_view kHalfAlone = "half of a surrogate pair stands alone";
+
+[[nodiscard]] constexpr bool isBetweenTokens(char character) noexcept {
+    return isBlank(character) || character == ',' || character == ':' || character == ']' ||
+           character == '}';
+}
+
 /// Writes the tokens of a text to a tape as the parser meets them.
 class TapeWriter {
 public:
@@ -49,6 +58,15 @@ public:
     /// Where the token is that was looked at last.
     [[nodiscard]] std::size_t position() const noexcept {
         return static_cast<std::size_t>(position_ - tape_.text.data());
+    }
+
+    /// Where the token begins that the parser is at.
+    [[nodiscard]] std::size_t nextToken() const noexcept {
+        std::size_t offset = position();
+        while (offset != tape_.text.size() && isBetweenTokens(tape_.text[offset])) {
+            ++offset;
+        }
+        return offset;
     }
 
     bool on_document_begin(parsing::error_code&) { return true; }
@@ -92,13 +110,11 @@ public:
     bool on_comment(std::string_view, parsing::error_code&) { return true; }
 
 private:
-    /// Goes to the next token: only blanks and structure are in between.
-    const char* findToken() noexcept {
-        while (isBlank(*position_) || *position_ == ',' || *position_ == ':' || *position_ == ']' ||
-               *position_ == '}') {
+    /// Goes to the next token, which is there.
+    void findToken() noexcept {
+        while (isBetweenTokens(*position_)) {
             ++position_;
         }
-        return position_;
     }
 
     /// Adds a token that begins at position_.
@@ -234,24 +250,66 @@ using Parser = parsing::basic_parser<TapeWriter>;
     return text;
 }
 
-[[nodiscard]] std::string describe(const parsing::error_code& error, std::string_view rest,
-                                   std::size_t maximumDepth) {
+struct Fault {
+    std::size_t offset;
+    std::string what;
+};
+
+/// Looks for a \u escape that is wrong, from the string's opening quote up to the place where the
+/// parser stopped. The parser stops at a varying place within the escape.
+[[nodiscard]] std::optional<Fault> findBrokenEscape(std::string_view text, std::size_t quote,
+                                                    std::size_t stop) {
+    const auto unitAt = [text](std::size_t offset) -> std::optional<std::uint32_t> {
+        std::uint32_t unit = 0;
+        const std::string_view digits = text.substr(std::min(offset, text.size()), 6);
+        if (!digits.starts_with("\\u") || digits.size() != 6 ||
+            std::from_chars(digits.data() + 2, digits.data() + 6, unit, 16).ptr !=
+                digits.data() + 6) {
+            return std::nullopt;
+        }
+        return unit;
+    };
+    for (std::size_t offset = quote + 1; offset < stop;) {
+        if (text[offset] != '\\') {
+            ++offset;
+        } else if (offset + 1 == text.size() || text[offset + 1] != 'u') {
+            offset += 2;
+        } else if (const auto unit = unitAt(offset); !unit) {
+            return Fault{offset, "expected four hexadecimal digits after \\u"};
+        } else if (*unit < 0xD800 || *unit > 0xDFFF) {
+            offset += 6;
+        } else if (*unit > 0xDBFF) {
+            return Fault{offset, std::string(kHalfAlone)};
+        } else if (text.substr(offset + 6, 2) == "\\u" && !unitAt(offset + 6)) {
+            offset += 6;
+        } else if (const auto other = unitAt(offset + 6);
+                   !other || *other < 0xDC00 || *other > 0xDFFF) {
+            return Fault{offset, std::string(kHalfAlone)};
+        } else {
+            offset += 12;
+        }
+    }
+    return std::nullopt;
+}
+
+/// What is wrong at the place where the parser stopped.
+[[nodiscard]] Fault findFault(const TapeWriter& writer, std::string_view text, std::size_t stop,
+                              const parsing::error_code& error, std::size_t maximumDepth) {
     if (error == parsing::error::too_deep) {
-        return "objects and arrays are nested deeper than " + std::to_string(maximumDepth) +
-               " levels";
+        return {stop, "objects and arrays are nested deeper than " + std::to_string(maximumDepth) +
+                          " levels"};
     }
     if (error == parsing::error::not_double) {
-        return "the number is outside the range of a double";
+        // The number's beginning, not its end.
+        return {writer.position(), "the number is outside the range of a double"};
     }
-    if (!rest.empty() && error == parsing::error::expected_hex_digit) {
-        return "expected four hexadecimal digits after \\u";
+    const std::size_t token = writer.nextToken();
+    if (stop != text.size() && token < stop && text[token] == '"') {
+        if (auto fault = findBrokenEscape(text, token, stop)) {
+            return *std::move(fault);
+        }
     }
-    if (!rest.empty() && (error == parsing::error::illegal_leading_surrogate ||
-                          error == parsing::error::illegal_trailing_surrogate ||
-                          error == parsing::error::expected_utf16_escape)) {
-        return "half of a surrogate pair stands alone";
-    }
-    return unexpected(rest);
+    return {stop, unexpected(text.substr(stop))};
 }
 
 void checkBeginning(const Tape& tape) {
@@ -279,12 +337,10 @@ std::size_t tokenise(Tape& tape, std::size_t maximumDepth) {
     options.numbers = parsing::number_precision::none;
     Parser parser(options, tape);
     parsing::error_code error;
-    std::size_t end = parser.write_some(false, tape.text.data(), tape.text.size(), error);
+    const std::size_t end = parser.write_some(false, tape.text.data(), tape.text.size(), error);
     if (error) {
-        if (error == parsing::error::not_double) {
-            end = parser.handler().position(); // the number's beginning, not its end
-        }
-        throwSyntaxError(tape, end, describe(error, tape.text.substr(end), maximumDepth));
+        const Fault fault = findFault(parser.handler(), tape.text, end, error, maximumDepth);
+        throwSyntaxError(tape, fault.offset, fault.what);
     }
     return end;
 }

@@ -1,0 +1,115 @@
+#include <corvane/utils/io/FileOutputStream.hpp>
+
+#include "utils/io/TemporaryFolder.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace {
+
+using corvane::tests::TemporaryFolder;
+using corvane::utils::io::FileOutputStream;
+
+std::string failureText(const std::filesystem::path& path) {
+    try {
+        FileOutputStream stream(path);
+        stream.write("x");
+        stream.close();
+    } catch (const std::system_error& error) {
+        return error.what();
+    }
+    return "no std::system_error";
+}
+
+TEST(FileOutputStream, WritesANewFileWhenItIsClosed) {
+    const TemporaryFolder folder;
+    const auto path = folder.path() / "new.json";
+    FileOutputStream stream(path);
+    stream.write("a\r\nb");
+    stream.put('\0');
+    stream.flush();
+    EXPECT_FALSE(std::filesystem::exists(path));
+    stream.close();
+    EXPECT_EQ(TemporaryFolder::read(path), std::string("a\r\nb\0", 5));
+    EXPECT_EQ(folder.count(), 1U);
+}
+
+TEST(FileOutputStream, ReplacesAFileOnlyWhenItIsClosed) {
+    const TemporaryFolder folder;
+    const auto path = folder.write("file.json", "old content");
+    FileOutputStream stream(path);
+    stream.write("new");
+    stream.flush();
+    EXPECT_EQ(TemporaryFolder::read(path), "old content");
+    stream.close();
+    EXPECT_EQ(TemporaryFolder::read(path), "new");
+    stream.close();
+    EXPECT_EQ(folder.count(), 1U);
+}
+
+TEST(FileOutputStream, ChangesNothingWhenItIsDestroyedBeforeItIsClosed) {
+    const TemporaryFolder folder;
+    const auto path = folder.write("file.json", "old content");
+    {
+        FileOutputStream stream(path);
+        stream.write(std::string(200000, 'x'));
+        stream.flush();
+        EXPECT_EQ(folder.count(), 2U);
+    }
+    EXPECT_EQ(TemporaryFolder::read(path), "old content");
+    EXPECT_EQ(folder.count(), 1U);
+}
+
+TEST(FileOutputStream, WritesTextsOfEverySize) {
+    const TemporaryFolder folder;
+    const auto path = folder.path() / "big";
+    std::string expected;
+    FileOutputStream stream(path);
+    for (const std::size_t size : {1U, 65535U, 1U, 65536U, 7U, 65537U, 200000U, 0U, 3U}) {
+        const std::string text(size, static_cast<char>('a' + size % 26));
+        stream.write(text);
+        expected += text;
+        stream.put('|');
+        expected += '|';
+    }
+    stream.close();
+    EXPECT_TRUE(TemporaryFolder::read(path) == expected);
+}
+
+TEST(FileOutputStream, WritesAnEmptyFile) {
+    const TemporaryFolder folder;
+    const auto path = folder.write("file", "old");
+    FileOutputStream stream(path);
+    stream.close();
+    EXPECT_EQ(TemporaryFolder::read(path), "");
+}
+
+TEST(FileOutputStream, WritesToAPathOutsideAscii) {
+    const TemporaryFolder folder;
+    const auto path = folder.path() / u8"Gr\u00F6\u00DFe \u6E2C\u8A66.json";
+    FileOutputStream stream(path);
+    stream.write("{}");
+    stream.close();
+    EXPECT_EQ(TemporaryFolder::read(path), "{}");
+    EXPECT_EQ(stream.path(), path);
+}
+
+TEST(FileOutputStream, NamesAFolderThatIsMissing) {
+    const TemporaryFolder folder;
+    const std::string text = failureText(folder.path() / "missing" / "file.json");
+    EXPECT_TRUE(text.starts_with("cannot write ")) << text;
+    EXPECT_NE(text.find("file.json: "), std::string::npos) << text;
+}
+
+TEST(FileOutputStream, RefusesToReplaceAFolder) {
+    const TemporaryFolder folder;
+    const std::string text = failureText(folder.path());
+    EXPECT_TRUE(text.starts_with("cannot write ")) << text;
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path()));
+    EXPECT_EQ(folder.count(), 0U);
+}
+
+} // namespace

@@ -1,0 +1,84 @@
+#include <corvane/utils/numeric/format.hpp>
+
+#include <corvane/utils/numeric/parse.hpp>
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <type_traits>
+
+namespace {
+
+using corvane::utils::numeric::format;
+using corvane::utils::numeric::parse;
+using corvane::utils::string::BasicStaticString;
+
+static_assert(std::is_same_v<decltype(format(std::int64_t{})), BasicStaticString<char, 20>>);
+static_assert(std::is_same_v<decltype(format(std::uint64_t{})), BasicStaticString<char, 20>>);
+static_assert(std::is_same_v<decltype(format(double{})), BasicStaticString<char, 24>>);
+
+TEST(Format, WritesSignedIntegersUpToBothEnds) {
+    EXPECT_EQ(format(std::int64_t{0}), "0");
+    EXPECT_EQ(format(std::int64_t{-7}), "-7");
+    EXPECT_EQ(format(std::numeric_limits<std::int64_t>::max()), "9223372036854775807");
+    EXPECT_EQ(format(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
+}
+
+TEST(Format, WritesUnsignedIntegersUpToTheEnd) {
+    EXPECT_EQ(format(std::uint64_t{0}), "0");
+    EXPECT_EQ(format(std::numeric_limits<std::uint64_t>::max()), "18446744073709551615");
+}
+
+TEST(Format, WritesTheShortestTextOfADouble) {
+    EXPECT_EQ(format(0.0), "0");
+    EXPECT_EQ(format(-0.0), "-0");
+    EXPECT_EQ(format(250.0), "250");
+    EXPECT_EQ(format(1.5), "1.5");
+    EXPECT_EQ(format(0.1), "0.1");
+    EXPECT_EQ(format(0.1 + 0.2), "0.30000000000000004");
+    EXPECT_EQ(format(1e30), "1e+30");
+    EXPECT_EQ(format(100000.0), "1e+05");
+    EXPECT_EQ(format(1e-7), "1e-07");
+    EXPECT_EQ(format(9007199254740993.0), "9007199254740992");
+}
+
+TEST(Format, WritesTheExtremesOfADouble) {
+    using Limits = std::numeric_limits<double>;
+    EXPECT_EQ(format(Limits::max()), "1.7976931348623157e+308");
+    EXPECT_EQ(format(Limits::lowest()), "-1.7976931348623157e+308");
+    EXPECT_EQ(format(-Limits::min()), "-2.2250738585072014e-308");
+    EXPECT_EQ(format(Limits::denorm_min()), "5e-324");
+    EXPECT_EQ(format(Limits::infinity()), "inf");
+    EXPECT_EQ(format(-Limits::infinity()), "-inf");
+    EXPECT_EQ(format(std::abs(Limits::quiet_NaN())), "nan");
+}
+
+TEST(Format, FillsTheCapacityWithTheLongestTexts) {
+    EXPECT_EQ(format(std::numeric_limits<std::int64_t>::min()).size(), 20U);
+    EXPECT_EQ(format(std::numeric_limits<std::uint64_t>::max()).size(), 20U);
+    EXPECT_EQ(format(-std::numeric_limits<double>::min()).size(), 24U);
+}
+
+TEST(Format, WritesDoublesThatReadBackAsTheSameNumber) {
+    std::mt19937_64 random(20240506);
+    int finite = 0;
+    for (int round = 0; round != 20000; ++round) {
+        const double number = std::bit_cast<double>(random());
+        if (!std::isfinite(number)) {
+            continue;
+        }
+        ++finite;
+        const auto text = format(number);
+        const auto back = parse<double>(text);
+        ASSERT_TRUE(back.has_value()) << text.view();
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(*back), std::bit_cast<std::uint64_t>(number))
+            << text.view();
+    }
+    EXPECT_GT(finite, 19000);
+}
+
+} // namespace
