@@ -1,0 +1,22 @@
+#include "Reader.hpp"
+
+namespace corvane::bench {
+
+namespace {
+
+std::vector<const Reader*>& list() {
+    static std::vector<const Reader*> readers;
+    return readers;
+}
+
+} // namespace
+
+Reader::Reader(const char* libraryName, Read readText) : m_name(libraryName), m_read(readText) {
+    list().push_back(this);
+}
+
+const std::vector<const Reader*>& Reader::all() {
+    return list();
+}
+
+} // namespace corvane::bench

@@ -1,0 +1,66 @@
+// Times reading (with the destruction of what was read) and writing of JSON, side by side.
+//
+//     bench-json [FILE...] [--benchmark_...]
+//
+// The files take the place of the generated documents.
+#include "Reader.hpp"
+#include "documents.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace corvane::bench;
+
+void addBenchmarks(const Reader& reader, const Document& document) {
+    const auto bytes = [&document](benchmark::State& state) {
+        state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                                static_cast<std::int64_t>(document.text.size()));
+    };
+    benchmark::RegisterBenchmark("read/" + document.name + "/" + reader.name(),
+                                 [&reader, &document, bytes](benchmark::State& state) {
+                                     for (auto _ : state) {
+                                         benchmark::DoNotOptimize(reader.read(document.text));
+                                     }
+                                     bytes(state);
+                                 });
+    benchmark::RegisterBenchmark("write/" + document.name + "/" + reader.name(),
+                                 [&reader, &document, bytes](benchmark::State& state) {
+                                     const auto read = reader.read(document.text);
+                                     for (auto _ : state) {
+                                         benchmark::DoNotOptimize(read->write());
+                                     }
+                                     bytes(state);
+                                 });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        benchmark::Initialize(&argc, argv);
+        std::vector<Document> documents;
+        for (int argument = 1; argument < argc; ++argument) {
+            documents.push_back(documentFromFile(argv[argument]));
+        }
+        if (documents.empty()) {
+            documents = generatedDocuments();
+        }
+        for (const Document& document : documents) {
+            for (const Reader* const reader : Reader::all()) {
+                addBenchmarks(*reader, document);
+            }
+        }
+        benchmark::RunSpecifiedBenchmarks();
+        benchmark::Shutdown();
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "bench-json: " << error.what() << '\n';
+        return 1;
+    }
+}
