@@ -1,11 +1,12 @@
-# The commands of ./dev (run_COMMAND), each a thin layer over a CMake preset, run where the compiler is.
+# shellcheck shell=bash disable=SC2154 # ./dev sets checkout, cache and root
+# The commands of ./dev (run_COMMAND), each a thin layer over a CMake preset, run where the compiler is,
+# in the checkout.
 
 build() {
     local preset=$1
     shift
     : "${CCACHE_DIR:=$cache/ccache}" "${CCACHE_BASEDIR:=$checkout}" "${CCACHE_NOHASHDIR:=1}"
     export CCACHE_DIR CCACHE_BASEDIR CCACHE_NOHASHDIR
-    cd "$checkout"
     configure "$preset"
     cmake --build --preset "$preset" "$@"
 }
@@ -49,7 +50,6 @@ run_sanitize() {
 
 run_lint() {
     local files
-    cd "$checkout"
     mapfile -t files < <(git ls-files '*.cpp' '*.hpp')
     if [ "${1:-}" = --fix ]; then
         clang-format -i "${files[@]}"
@@ -110,7 +110,6 @@ run_coverage() {
 }
 
 run_docs() {
-    cd "$checkout"
     mkdir -p build/docs
     doxygen docs/Doxyfile
 }

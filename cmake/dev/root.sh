@@ -1,8 +1,10 @@
+# shellcheck shell=bash disable=SC2154 # ./dev sets checkout, cache and root
 # A Debian 13 root for systems whose compiler is too old. Sourced by ./dev.
 # The root is prepared beside its place and renamed when it is whole. The checkout is bound into it at
 # the same path, in a mount namespace of its own, so nothing stays mounted.
 
 mirror_of_this_machine() {
+    # shellcheck disable=SC2016 # apt's own placeholder
     apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 2>/dev/null |
         grep -m1 '/debian/*$' || true
 }
@@ -66,7 +68,7 @@ $(missing_packages "$@" | tr "\n" " ")"
         fail "the Debian 13 root in $root cannot be entered (unshare and mount must be allowed)"
     if [ -n "$packages" ]; then
         say "Installing in the Debian 13 root: $packages"
-        # shellcheck disable=SC2016 # expanded by the inner shell
+        # shellcheck disable=SC2016,SC2086 # expanded by the inner shell; a list of words
         quietly in_root "$root" env DEBIAN_FRONTEND=noninteractive bash -c '
             apt-get update && dpkg --configure -a && apt-get install -y --no-install-recommends "$@"' apt $packages ||
             fail "the packages could not be installed in $root (is there a network?); the log is $cache/setup.log"
@@ -80,7 +82,10 @@ in_environment() {
     if [ -n "${use_root:-}" ]; then
         in_root "$root" env CORVANE_CACHE="$cache" CI="${CI:-}" LC_ALL=C.UTF-8 TERM="${TERM:-dumb}" ./dev in-environment "$@"
     else
-        "run_$1" "${@:2}"
+        (
+            cd "$checkout" || exit
+            "run_$1" "${@:2}"
+        )
     fi
 }
 

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2154 # ./dev sets checkout, cache and root
 # Finds out what this machine lacks and installs it. Sourced by ./dev.
 
 say() { printf '\033[1m==>\033[0m %s\n' "$*" >&2; }

@@ -2,6 +2,8 @@
 
 namespace corvane::tests {
 
-std::string_view linkedSkillId() { return BOUNDARY_SKILL_ID; }
+std::string_view linkedSkillId() {
+    return BOUNDARY_SKILL_ID;
+}
 
 } // namespace corvane::tests
