@@ -96,7 +96,7 @@ run_fuzz() {
 run_bench() {
     local program
     build bench
-    for program in "$checkout"/build/bench/bin/*_benchmark; do
+    for program in "$checkout"/build/bench/bin/bench-*; do
         say "$(basename "$program")"
         "$program" "$@"
     done
