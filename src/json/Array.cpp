@@ -20,18 +20,8 @@ Array::Array(const Array& other) = default;
 Array::Array(Array&& other) noexcept = default;
 Array::~Array() = default;
 
-Array& Array::operator=(const Array& other) {
-    // `other` may be an element of this array: copy it before the elements go.
-    std::vector<Value> elements(other.m_elements);
-    m_elements.swap(elements);
-    return *this;
-}
-
-Array& Array::operator=(Array&& other) noexcept {
-    std::vector<Value> elements(std::move(other.m_elements));
-    m_elements.swap(elements);
-    return *this;
-}
+Array& Array::operator=(const Array& other) = default;
+Array& Array::operator=(Array&& other) noexcept = default;
 
 bool Array::empty() const noexcept {
     return m_elements.empty();
@@ -95,7 +85,7 @@ void Array::decode(decoder::Value& source, DecodingOptions options) {
 void Array::decode(decoder::Array& source, DecodingOptions) {
     Array decoded;
     decoded.decodeElements(source);
-    m_elements.swap(decoded.m_elements);
+    *this = std::move(decoded);
 }
 
 void Array::decodeElements(decoder::Array& source) {

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <format>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
 
 namespace corvane::workbench::json {
@@ -46,18 +47,8 @@ Object::Object(const Object& other) = default;
 Object::Object(Object&& other) noexcept = default;
 Object::~Object() = default;
 
-Object& Object::operator=(const Object& other) {
-    // `other` may be the value of a member of this object: copy it before the members go.
-    std::vector<Member> members(other.m_members);
-    m_members.swap(members);
-    return *this;
-}
-
-Object& Object::operator=(Object&& other) noexcept {
-    std::vector<Member> members(std::move(other.m_members));
-    m_members.swap(members);
-    return *this;
-}
+Object& Object::operator=(const Object& other) = default;
+Object& Object::operator=(Object&& other) noexcept = default;
 
 bool Object::empty() const noexcept {
     return m_members.empty();
@@ -135,7 +126,7 @@ void Object::decode(decoder::Value& source, DecodingOptions options) {
 void Object::decode(decoder::Object& source, DecodingOptions options) {
     Object decoded;
     decoded.decodeMembers(source, options);
-    m_members.swap(decoded.m_members);
+    *this = std::move(decoded);
 }
 
 void Object::decodeInternal(decoder::Value& source, MemberFilter filter, DecodingOptions options) {
@@ -152,10 +143,13 @@ void Object::decodeMembers(decoder::Object& source, DecodingOptions options) {
     m_members.reserve(source.memberCount());
     internal::MemberIndex index(m_members, source.memberCount());
     for (const decoder::Member& member : source) {
-        const std::size_t position = index.findOrEnter(member.name.text());
+        const std::string_view name = member.name.text();
+        const std::size_t position = index.findOrEnter(name);
         // Nested values are read with default options, whatever holds for the outermost one.
         if (position == internal::MemberIndex::kNone) {
-            m_members.emplace_back(member.name.text(), Value())
+            m_members
+                .emplace_back(std::piecewise_construct, std::forward_as_tuple(name),
+                              std::forward_as_tuple())
                 .second.decodeContent(member.value, {});
         } else if (options.allowDuplicateMembers) {
             m_members[position].second.decode(member.value);

@@ -13,8 +13,10 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <memory>
 #include <stdexcept>
 #include <utility>
+#include <variant>
 
 namespace corvane::workbench::json {
 
@@ -53,31 +55,102 @@ void writeDouble(encoder::Value& target, double number) {
 
 } // namespace
 
-Value::Value() noexcept : m_content(std::in_place_type<Null>) {}
-Value::Value(Null) noexcept : Value() {}
-Value::Value(Object object) noexcept : m_content(std::in_place_type<Object>, std::move(object)) {}
-Value::Value(Array array) noexcept : m_content(std::in_place_type<Array>, std::move(array)) {}
-Value::Value(std::string text) noexcept
-    : m_content(std::in_place_type<std::string>, std::move(text)) {}
-Value::Value(std::string_view text) : m_content(std::in_place_type<std::string>, text) {}
-Value::Value(const char* text) : m_content(std::in_place_type<std::string>, text) {}
-Value::Value(double number) noexcept : m_content(std::in_place_type<double>, number) {}
+Value::Value(std::string text) : m_text(new std::string(std::move(text))), m_kind(Kind::String) {}
+Value::Value(std::string_view text) : Value() {
+    makeText(text);
+}
+Value::Value(const char* text) : Value(std::string_view(text)) {}
 
-Value::Value(const Value& other) = default;
-Value::Value(Value&& other) noexcept = default;
-Value::~Value() = default;
+Value::Value(const Value& other) : Value() {
+    switch (other.m_kind) {
+    case Kind::Object:
+        std::construct_at(&m_object, other.m_object);
+        break;
+    case Kind::Array:
+        std::construct_at(&m_array, other.m_array);
+        break;
+    case Kind::String:
+        m_text = new std::string(*other.m_text);
+        break;
+    case Kind::SignedInteger:
+        m_signedInteger = other.m_signedInteger;
+        break;
+    case Kind::UnsignedInteger:
+        m_unsignedInteger = other.m_unsignedInteger;
+        break;
+    case Kind::Double:
+        m_double = other.m_double;
+        break;
+    case Kind::Boolean:
+        m_boolean = other.m_boolean;
+        break;
+    case Kind::Null:
+        break;
+    }
+    m_kind = other.m_kind;
+}
 
 Value& Value::operator=(const Value& other) {
     // `other` may be nested in this value: copy it before the content goes.
     Value copy(other);
-    m_content.swap(copy.m_content);
-    return *this;
+    return *this = std::move(copy);
 }
 
 Value& Value::operator=(Value&& other) noexcept {
     Value taken(std::move(other));
-    m_content.swap(taken.m_content);
+    clear();
+    take(taken);
     return *this;
+}
+
+void Value::destroyContent() noexcept {
+    switch (m_kind) {
+    case Kind::Object:
+        return std::destroy_at(&m_object);
+    case Kind::Array:
+        return std::destroy_at(&m_array);
+    case Kind::String:
+        delete m_text;
+        return;
+    default:
+        return;
+    }
+}
+
+void Value::take(Value& other) noexcept {
+    switch (other.m_kind) {
+    case Kind::Object:
+        std::construct_at(&m_object, std::move(other.m_object));
+        std::destroy_at(&other.m_object);
+        break;
+    case Kind::Array:
+        std::construct_at(&m_array, std::move(other.m_array));
+        std::destroy_at(&other.m_array);
+        break;
+    case Kind::String:
+        m_text = other.m_text;
+        break;
+    case Kind::SignedInteger:
+        m_signedInteger = other.m_signedInteger;
+        break;
+    case Kind::UnsignedInteger:
+        m_unsignedInteger = other.m_unsignedInteger;
+        break;
+    case Kind::Double:
+        m_double = other.m_double;
+        break;
+    case Kind::Boolean:
+        m_boolean = other.m_boolean;
+        break;
+    case Kind::Null:
+        break;
+    }
+    m_kind = std::exchange(other.m_kind, Kind::Null);
+}
+
+void Value::makeText(std::string_view text) {
+    m_text = new std::string(text);
+    m_kind = Kind::String;
 }
 
 bool Value::operator==(const Value& other) const {
@@ -86,19 +159,19 @@ bool Value::operator==(const Value& other) const {
     }
     switch (kind()) {
     case Kind::Object:
-        return *getIf<Object>() == *other.getIf<Object>();
+        return m_object == other.m_object;
     case Kind::Array:
-        return *getIf<Array>() == *other.getIf<Array>();
+        return m_array == other.m_array;
     case Kind::String:
-        return *getIf<std::string>() == *other.getIf<std::string>();
+        return *m_text == *other.m_text;
     case Kind::SignedInteger:
-        return *getIf<std::int64_t>() == *other.getIf<std::int64_t>();
+        return m_signedInteger == other.m_signedInteger;
     case Kind::UnsignedInteger:
-        return *getIf<std::uint64_t>() == *other.getIf<std::uint64_t>();
+        return m_unsignedInteger == other.m_unsignedInteger;
     case Kind::Double:
-        return *getIf<double>() == *other.getIf<double>();
+        return m_double == other.m_double;
     case Kind::Boolean:
-        return *getIf<bool>() == *other.getIf<bool>();
+        return m_boolean == other.m_boolean;
     case Kind::Null:
         break;
     }
@@ -114,23 +187,37 @@ void Value::decode(decoder::Value& source, DecodingOptions options) {
 void Value::decodeContent(decoder::Value& source, DecodingOptions options) {
     if (source.isObject()) {
         decoder::Object object = source.asObject();
-        m_content.emplace<Object>().decodeMembers(object, options);
+        std::construct_at(&m_object);
+        m_kind = Kind::Object;
+        m_object.decodeMembers(object, options);
     } else if (source.isArray()) {
         decoder::Array array = source.asArray();
-        m_content.emplace<Array>().decodeElements(array);
-    } else if (source.isString()) {
-        m_content.emplace<std::string>(source.asString().view());
+        std::construct_at(&m_array);
+        m_kind = Kind::Array;
+        m_array.decodeElements(array);
+    } else {
+        decodeScalar(source);
+    }
+}
+
+void Value::decodeScalar(decoder::Value& source) {
+    if (source.isString()) {
+        makeText(source.asString().view());
     } else if (source.isNumber()) {
         const decoder::Value::Number number = source.asNumber();
         if (const auto* const signedInteger = std::get_if<std::int64_t>(&number)) {
-            m_content.emplace<std::int64_t>(*signedInteger);
+            m_signedInteger = *signedInteger;
+            m_kind = Kind::SignedInteger;
         } else if (const auto* const unsignedInteger = std::get_if<std::uint64_t>(&number)) {
-            m_content.emplace<std::uint64_t>(*unsignedInteger);
+            m_unsignedInteger = *unsignedInteger;
+            m_kind = Kind::UnsignedInteger;
         } else {
-            m_content.emplace<double>(*std::get_if<double>(&number));
+            m_double = *std::get_if<double>(&number);
+            m_kind = Kind::Double;
         }
     } else if (source.isBool()) {
-        m_content.emplace<bool>(source.asBool());
+        m_boolean = source.asBool();
+        m_kind = Kind::Boolean;
     } else if (!source.isNull()) {
         internal::throwAt(source.location(),
                           std::logic_error("internal_error: unsupported JSON value type"));
@@ -140,19 +227,19 @@ void Value::decodeContent(decoder::Value& source, DecodingOptions options) {
 void Value::encode(encoder::Value& target) const {
     switch (kind()) {
     case Kind::Object:
-        return getIf<Object>()->encode(target);
+        return m_object.encode(target);
     case Kind::Array:
-        return getIf<Array>()->encode(target);
+        return m_array.encode(target);
     case Kind::String:
-        return target.writeString(*getIf<std::string>());
+        return target.writeString(*m_text);
     case Kind::SignedInteger:
-        return target.writeNumber(utils::numeric::format(*getIf<std::int64_t>()));
+        return target.writeNumber(utils::numeric::format(m_signedInteger));
     case Kind::UnsignedInteger:
-        return target.writeNumber(utils::numeric::format(*getIf<std::uint64_t>()));
+        return target.writeNumber(utils::numeric::format(m_unsignedInteger));
     case Kind::Double:
-        return writeDouble(target, *getIf<double>());
+        return writeDouble(target, m_double);
     case Kind::Boolean:
-        return target.writeBool(*getIf<bool>());
+        return target.writeBool(m_boolean);
     case Kind::Null:
         return target.writeNull();
     }

@@ -21,6 +21,7 @@ static_assert(std::is_copy_constructible_v<Value> && std::is_copy_assignable_v<V
 static_assert(std::is_nothrow_move_constructible_v<Value>);
 static_assert(std::is_nothrow_move_assignable_v<Value>);
 static_assert(!std::is_constructible_v<Value, void*>);
+static_assert(sizeof(Value) <= 2 * sizeof(std::uint64_t));
 static_assert(static_cast<int>(Value::Kind::Object) == 0);
 static_assert(static_cast<int>(Value::Kind::Null) == 7);
 
@@ -241,6 +242,15 @@ TEST(JsonValue, MayBeAssignedAValueNestedInItself) {
     EXPECT_EQ(compact(moved), R"([1,{"b":"some longer text"}])");
     moved = std::move(moved.get<Array>()[1]);
     EXPECT_EQ(compact(moved), R"({"b":"some longer text"})");
+}
+
+TEST(JsonValue, AMovedFromValueIsNull) {
+    for (const char* const text : {"{\"a\":1}", "[1]", "\"text\"", "1", "1.5", "true"}) {
+        Value value = Value::fromString(text).value();
+        const Value moved = std::move(value);
+        EXPECT_TRUE(value.is<Value::Null>()) << text; // NOLINT(bugprone-use-after-move)
+        EXPECT_EQ(moved, Value::fromString(text));
+    }
 }
 
 TEST(JsonValue, MayBeAssignedToItself) {

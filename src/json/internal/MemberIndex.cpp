@@ -6,7 +6,7 @@
 
 namespace corvane::workbench::json::internal {
 
-MemberIndex::MemberIndex(const std::vector<Object::Member>& members, std::size_t capacity)
+MemberIndex::MemberIndex(const Sequence<Object::Member>& members, std::size_t capacity)
     : m_members(members) {
     if (capacity > kSmall) {
         m_slots.resize(std::bit_ceil(capacity * 2));

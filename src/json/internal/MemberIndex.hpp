@@ -4,6 +4,7 @@
 
 #include <corvane/workbench/json/Object.hpp>
 #include <corvane/workbench/json/Value.hpp>
+#include <corvane/workbench/json/internal/Sequence.hpp>
 
 #include <cstddef>
 #include <cstdint>
@@ -18,7 +19,7 @@ public:
     static constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
 
     /// Watches `members`, which is empty and to which at most `capacity` members will be appended.
-    MemberIndex(const std::vector<Object::Member>& members, std::size_t capacity);
+    MemberIndex(const Sequence<Object::Member>& members, std::size_t capacity);
 
     /// The position of the member of that name, or kNone; then the caller appends that member.
     [[nodiscard]] std::size_t findOrEnter(std::string_view name) {
@@ -38,7 +39,7 @@ private:
     [[nodiscard]] std::size_t search(std::string_view name) const noexcept;
     [[nodiscard]] std::size_t findOrEnterInTable(std::string_view name);
 
-    const std::vector<Object::Member>& m_members;
+    const Sequence<Object::Member>& m_members;
     std::vector<Slot> m_slots;
 };
 

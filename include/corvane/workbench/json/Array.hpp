@@ -7,13 +7,13 @@
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/json/DecodingOptions.hpp>
+#include <corvane/workbench/json/internal/Sequence.hpp>
 
 #include <tl/expected.hpp>
 
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace corvane::utils::json::decoder {
 class Array;
@@ -31,8 +31,8 @@ class Value;
 class CORVANE_WORKBENCH_EXPORT Array {
 public:
     using value_type = Value;
-    using iterator = std::vector<Value>::iterator;
-    using const_iterator = std::vector<Value>::const_iterator;
+    using iterator = Value*;
+    using const_iterator = const Value*;
 
     Array() noexcept;
     Array(const Array& other);
@@ -84,7 +84,7 @@ private:
 
     void decodeElements(utils::json::decoder::Array& source);
 
-    std::vector<Value> m_elements;
+    internal::Sequence<Value> m_elements;
 };
 
 } // namespace corvane::workbench::json

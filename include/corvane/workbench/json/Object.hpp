@@ -9,6 +9,7 @@
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/json/DecodingOptions.hpp>
+#include <corvane/workbench/json/internal/Sequence.hpp>
 
 #include <tl/expected.hpp>
 
@@ -17,7 +18,6 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 namespace corvane::utils::json::decoder {
 class Name;
@@ -37,8 +37,8 @@ class CORVANE_WORKBENCH_EXPORT Object {
 public:
     using Member = std::pair<std::string, Value>;
     using value_type = Member;
-    using iterator = std::vector<Member>::iterator;
-    using const_iterator = std::vector<Member>::const_iterator;
+    using iterator = Member*;
+    using const_iterator = const Member*;
 
     /// A member filter that refuses the names which an element's JSON object reserves for itself:
     /// "name", "UUID", "ACL" and "children". For a skill that reads its own object out of an
@@ -137,7 +137,7 @@ private:
     static tl::expected<Object, std::wstring>
     fromStringInternal(std::string_view text, MemberFilter filter, DecodingOptions options);
 
-    std::vector<Member> m_members;
+    internal::Sequence<Member> m_members;
 };
 
 } // namespace corvane::workbench::json

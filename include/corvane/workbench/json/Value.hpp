@@ -50,72 +50,72 @@ public:
     };
 
     /// Null.
-    Value() noexcept;
-    Value(Null) noexcept;
-    Value(Object object) noexcept;
-    Value(Array array) noexcept;
+    Value() noexcept : m_null(), m_kind(Kind::Null) {}
+    Value(Null) noexcept : Value() {}
+    Value(Object object) noexcept : m_object(std::move(object)), m_kind(Kind::Object) {}
+    Value(Array array) noexcept : m_array(std::move(array)), m_kind(Kind::Array) {}
     /// UTF-8.
-    Value(std::string text) noexcept;
+    Value(std::string text);
     Value(std::string_view text);
     Value(const char* text);
     /// Exactly a bool: pointers and numbers do not become one.
     template <std::same_as<bool> T>
-    Value(T boolean) noexcept : m_content(std::in_place_type<bool>, boolean) {}
+    Value(T boolean) noexcept : m_boolean(boolean), m_kind(Kind::Boolean) {}
     /// Signed types become a signed integer, unsigned ones an unsigned integer.
-    template <std::integral T>
+    template <std::signed_integral T>
+    Value(T number) noexcept : m_signedInteger(number), m_kind(Kind::SignedInteger) {}
+    template <std::unsigned_integral T>
         requires(!std::same_as<T, bool>)
-    Value(T number) noexcept
-        : m_content(std::in_place_type<
-                        std::conditional_t<std::signed_integral<T>, std::int64_t, std::uint64_t>>,
-                    number) {}
-    Value(double number) noexcept;
+    Value(T number) noexcept : m_unsignedInteger(number), m_kind(Kind::UnsignedInteger) {}
+    Value(double number) noexcept : m_double(number), m_kind(Kind::Double) {}
 
     Value(const Value& other);
-    Value(Value&& other) noexcept;
+    /// Leaves `other` null.
+    Value(Value&& other) noexcept : Value() { take(other); }
     /// Also safe when `other` is nested in this value.
     Value& operator=(const Value& other);
     Value& operator=(Value&& other) noexcept;
-    ~Value();
+    ~Value() { clear(); }
 
-    [[nodiscard]] Kind kind() const noexcept { return static_cast<Kind>(m_content.index()); }
+    [[nodiscard]] Kind kind() const noexcept { return m_kind; }
 
     /// T is one of the alternatives: Object, Array, std::string, std::int64_t, std::uint64_t,
     /// double, bool, Null.
     template <class T>
     [[nodiscard]] bool is() const noexcept {
-        return std::holds_alternative<T>(m_content);
+        return m_kind == kKindOf<T>;
     }
     /// The content if it is of that kind, else null.
     template <class T>
     [[nodiscard]] T* getIf() noexcept {
-        return std::get_if<T>(&m_content);
+        return is<T>() ? &content<T>(*this) : nullptr;
     }
     template <class T>
     [[nodiscard]] const T* getIf() const noexcept {
-        return std::get_if<T>(&m_content);
+        return is<T>() ? &content<T>(*this) : nullptr;
     }
     /// The content; throws std::bad_variant_access if it is of another kind.
     template <class T>
     [[nodiscard]] T& get() & {
-        return std::get<T>(m_content);
+        return checked<T>(*this);
     }
     template <class T>
     [[nodiscard]] const T& get() const& {
-        return std::get<T>(m_content);
+        return checked<T>(*this);
     }
     template <class T>
     [[nodiscard]] T&& get() && {
-        return std::get<T>(std::move(m_content));
+        return std::move(checked<T>(*this));
     }
 
-    /// Calls the visitor with the content and returns what it returns.
+    /// Calls the visitor with the content and returns what it returns, one type for every kind.
     template <class Visitor>
     decltype(auto) visit(Visitor&& visitor) {
-        return std::visit(std::forward<Visitor>(visitor), m_content);
+        return visit(*this, std::forward<Visitor>(visitor));
     }
     template <class Visitor>
     decltype(auto) visit(Visitor&& visitor) const {
-        return std::visit(std::forward<Visitor>(visitor), m_content);
+        return visit(*this, std::forward<Visitor>(visitor));
     }
 
     /// Same kind and equal content: the signed 5, the unsigned 5 and 5.0 are three values. Doubles
@@ -142,9 +142,108 @@ private:
 
     /// Decodes into a value that is null and is of no use after an exception.
     void decodeContent(utils::json::decoder::Value& source, DecodingOptions options);
+    void decodeScalar(utils::json::decoder::Value& source);
 
-    std::variant<Object, Array, std::string, std::int64_t, std::uint64_t, double, bool, Null>
-        m_content;
+    template <class T>
+    static constexpr Kind kKindOf = [] {
+        if constexpr (std::same_as<T, Object>) {
+            return Kind::Object;
+        } else if constexpr (std::same_as<T, Array>) {
+            return Kind::Array;
+        } else if constexpr (std::same_as<T, std::string>) {
+            return Kind::String;
+        } else if constexpr (std::same_as<T, std::int64_t>) {
+            return Kind::SignedInteger;
+        } else if constexpr (std::same_as<T, std::uint64_t>) {
+            return Kind::UnsignedInteger;
+        } else if constexpr (std::same_as<T, double>) {
+            return Kind::Double;
+        } else if constexpr (std::same_as<T, bool>) {
+            return Kind::Boolean;
+        } else {
+            static_assert(std::same_as<T, Null>, "not an alternative of json::Value");
+            return Kind::Null;
+        }
+    }();
+
+    /// The content of a value, constant or not, that is of that kind.
+    template <class T, class Self>
+    [[nodiscard]] static auto& content(Self& value) noexcept {
+        if constexpr (std::same_as<T, Object>) {
+            return value.m_object;
+        } else if constexpr (std::same_as<T, Array>) {
+            return value.m_array;
+        } else if constexpr (std::same_as<T, std::string>) {
+            return static_cast<std::conditional_t<std::is_const_v<Self>, const T, T>&>(
+                *value.m_text);
+        } else if constexpr (std::same_as<T, std::int64_t>) {
+            return value.m_signedInteger;
+        } else if constexpr (std::same_as<T, std::uint64_t>) {
+            return value.m_unsignedInteger;
+        } else if constexpr (std::same_as<T, double>) {
+            return value.m_double;
+        } else if constexpr (std::same_as<T, bool>) {
+            return value.m_boolean;
+        } else {
+            return value.m_null;
+        }
+    }
+
+    template <class T, class Self>
+    [[nodiscard]] static auto& checked(Self& value) {
+        if (!value.template is<T>()) {
+            throw std::bad_variant_access();
+        }
+        return content<T>(value);
+    }
+
+    template <class Self, class Visitor>
+    static decltype(auto) visit(Self& value, Visitor&& visitor) {
+        switch (value.m_kind) {
+        case Kind::Object:
+            return std::forward<Visitor>(visitor)(value.m_object);
+        case Kind::Array:
+            return std::forward<Visitor>(visitor)(value.m_array);
+        case Kind::String:
+            return std::forward<Visitor>(visitor)(content<std::string>(value));
+        case Kind::SignedInteger:
+            return std::forward<Visitor>(visitor)(value.m_signedInteger);
+        case Kind::UnsignedInteger:
+            return std::forward<Visitor>(visitor)(value.m_unsignedInteger);
+        case Kind::Double:
+            return std::forward<Visitor>(visitor)(value.m_double);
+        case Kind::Boolean:
+            return std::forward<Visitor>(visitor)(value.m_boolean);
+        case Kind::Null:
+            break;
+        }
+        return std::forward<Visitor>(visitor)(value.m_null);
+    }
+
+    /// Makes the value null.
+    void clear() noexcept {
+        if (m_kind <= Kind::String) {
+            destroyContent();
+        }
+        m_kind = Kind::Null;
+    }
+    void destroyContent() noexcept;
+    /// Moves the content of `other`, which becomes null, into this value, which is null.
+    void take(Value& other) noexcept;
+    void makeText(std::string_view text);
+
+    // Each alternative takes one word: a std::string, much larger, is held through a pointer.
+    union {
+        Object m_object;
+        Array m_array;
+        std::string* m_text;
+        std::int64_t m_signedInteger;
+        std::uint64_t m_unsignedInteger;
+        double m_double;
+        bool m_boolean;
+        Null m_null;
+    };
+    Kind m_kind;
 };
 
 } // namespace corvane::workbench::json
