@@ -81,7 +81,8 @@ TEST(JsonSequence, ErasesOneElement) {
     Texts sequence = texts({"a", "b", "c"});
     EXPECT_EQ(*sequence.erase(sequence.begin() + 1), "c");
     EXPECT_THAT(sequence, ElementsAre("a", "c"));
-    EXPECT_EQ(sequence.erase(sequence.begin() + 1), sequence.end());
+    const std::string* const behindLast = sequence.erase(sequence.begin() + 1);
+    EXPECT_EQ(behindLast, sequence.end());
     sequence.erase(sequence.begin());
     EXPECT_TRUE(sequence.empty());
     sequence.emplace_back("d");
