@@ -6,7 +6,6 @@
 
 #include <atomic>
 #include <cstddef>
-#include <mutex>
 #include <new>
 
 #include <corvane/utils/memory/detail/ExitList.hpp>
@@ -23,27 +22,49 @@ public:
     /// The object; the first call constructs it. When its constructor throws, the exception
     /// propagates and the next call tries again.
     [[nodiscard]] T& get() {
-        T* object = object_.load(std::memory_order_acquire);
-        if (object == nullptr) {
-            std::call_once(once_, [this] { construct(); });
-            object = object_.load(std::memory_order_acquire);
+        if (state_.load(std::memory_order_acquire) != State::Ready) {
+            makeReady();
         }
-        return *object;
+        return *std::launder(reinterpret_cast<T*>(storage_));
     }
     [[nodiscard]] T& operator*() { return get(); }
     [[nodiscard]] T* operator->() { return &get(); }
 
 private:
-    void construct() {
-        T* const object = ::new (static_cast<void*>(storage_)) T();
-        exit_.object = object;
-        exit_.destroy = [](void* pointer) { static_cast<T*>(pointer)->~T(); };
-        detail::destroyAtExit(exit_);
-        object_.store(object, std::memory_order_release);
+    enum class State { Empty, Constructing, Ready };
+
+    // Not std::call_once, which on some platforms never returns after an exception.
+    void makeReady() {
+        for (;;) {
+            State state = State::Empty;
+            if (state_.compare_exchange_strong(state, State::Constructing)) {
+                return construct();
+            }
+            if (state == State::Ready) {
+                return;
+            }
+            state_.wait(State::Constructing);
+        }
     }
 
-    std::atomic<T*> object_{nullptr};
-    std::once_flag once_;
+    void construct() {
+        try {
+            exit_.object = ::new (static_cast<void*>(storage_)) T();
+        } catch (...) {
+            setState(State::Empty);
+            throw;
+        }
+        exit_.destroy = [](void* object) { static_cast<T*>(object)->~T(); };
+        detail::destroyAtExit(exit_);
+        setState(State::Ready);
+    }
+
+    void setState(State state) noexcept {
+        state_.store(state, std::memory_order_release);
+        state_.notify_all();
+    }
+
+    std::atomic<State> state_{State::Empty};
     detail::ExitNode exit_;
     alignas(T) std::byte storage_[sizeof(T)]{};
 };
