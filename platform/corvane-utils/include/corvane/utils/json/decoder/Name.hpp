@@ -21,6 +21,11 @@ public:
     [[nodiscard]] std::string_view text() const noexcept { return text_; }
     operator std::string_view() const noexcept { return text_; }
 
+    /// Compares the text.
+    [[nodiscard]] friend bool operator==(const Name& name, std::string_view text) noexcept {
+        return name.text_ == text;
+    }
+
     /// Where the name stands; unknown for a name that came with no location.
     [[nodiscard]] Location location() const;
 
