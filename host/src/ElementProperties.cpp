@@ -25,7 +25,7 @@ void ElementProperties::forEachLocalCrossReference(
     /*callback*/,
     bool /*includeInvisible*/) {}
 
-std::size_t ElementProperties::localPropertyErrorCount() const {
+std::uint64_t ElementProperties::localPropertyErrorCount() const {
     return 0;
 }
 

@@ -115,7 +115,7 @@ void LoadContext::add(ReferenceKey&& key, model::internal::BasicElementReference
                       bool isMember, std::function<void()>&& completion) {
     _frame->_requests.push_back(_requests.size());
     _requests.push_back({std::move(key).text(), &reference, isMember, &_frame->_owner,
-                         decoder::Location(), std::move(completion)});
+                         decoder::Location(), std::move(completion), false});
 }
 
 bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::path& file,
@@ -123,7 +123,7 @@ bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::pat
     const ImportKeys importKeys =
         _options.resolveImportReferences ? ImportKeys::Resolve : ImportKeys::Keep;
     ProgressReport progress(_options.progress, LoadProgress::Stage::References, _requests.size());
-    for (const Request& request : _requests) {
+    for (Request& request : _requests) {
         *request.reference = request.isMember ? memberReferenceData(tree, request.key, importKeys)
                                               : elementReferenceData(tree, request.key, importKeys);
         if (request.completion) {
@@ -131,7 +131,9 @@ bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::pat
         }
         const model::internal::ElementReferenceData& data = request.reference->data();
         if (!data.empty() && !data.isImportReference()) {
-            if (const auto message = resolutionMessage(*request.reference)) {
+            const auto message = resolutionMessage(*request.reference);
+            request.resolved = !message;
+            if (message) {
                 problems.push_back({file, request.location.line(), request.location.column(),
                                     Problem::Severity::Error,
                                     corvane::utils::string::toUtf8(*message)});
@@ -162,10 +164,10 @@ void LoadContext::reportCircles(const std::filesystem::path& file,
     edges.reserve(_requests.size());
     requests.reserve(_requests.size());
     for (const Request& request : _requests) {
-        const auto target = request.reference->data().element();
-        if (!target) {
+        if (!request.resolved) {
             continue;
         }
+        const auto target = request.reference->data().element();
         const auto warn = [&](std::string text) {
             problems.push_back({file, request.location.line(), request.location.column(),
                                 Problem::Severity::Warning, std::move(text)});

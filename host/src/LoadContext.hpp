@@ -62,6 +62,7 @@ private:
         ElementNode* owner;
         corvane::utils::json::decoder::Location location;
         std::function<void()> completion;
+        bool resolved = false;
     };
 
     void resolveElementReference(ReferenceKey&& key,

@@ -510,6 +510,9 @@ const ElementClassRegistry& Workbench::elementClasses() const noexcept {
 
 LoadResult Workbench::loadConfiguration(const std::filesystem::path& file,
                                         const LoadOptions& options) {
+    if (_state->editing()) {
+        return {false, {refuseNested().value()}};
+    }
     try {
         corvane::utils::io::FileInputStream stream(file);
         if (!options.progress) {

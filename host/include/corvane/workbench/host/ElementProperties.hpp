@@ -5,6 +5,8 @@
 
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 
+#include <cstdint>
+
 namespace corvane::workbench::host {
 
 class ElementNode;
@@ -29,7 +31,7 @@ private:
     void forEachLocalCrossReference(const corvane::utils::core::function_ref<
                                         void(bindings::CrossReferenceController&)>& callback,
                                     bool includeInvisible) override;
-    [[nodiscard]] std::size_t localPropertyErrorCount() const override;
+    [[nodiscard]] std::uint64_t localPropertyErrorCount() const override;
     void propertyNotificationRaised(const bindings::PropertyId& property) override;
 
     ElementNode& _element;

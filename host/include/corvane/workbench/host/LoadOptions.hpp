@@ -18,7 +18,7 @@ struct LoadOptions {
     bool resolveImportReferences = false;
     /// Is told now and then how far the load has come: at the beginning and the end of each stage
     /// and about a hundred times in between. Returning false gives the load up. May be empty.
-    std::function<bool(const LoadProgress&)> progress;
+    std::function<bool(const LoadProgress&)> progress = {};
 };
 
 } // namespace corvane::workbench::host
