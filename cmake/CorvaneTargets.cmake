@@ -45,6 +45,16 @@ function(corvane_set_warnings target)
     endif()
 endfunction()
 
+# Templates of the standard library that a library uses would otherwise be exported along with its
+# own classes. Sanitizers need symbols of theirs to be seen.
+function(corvane_export_only_own_symbols target)
+    if(CMAKE_EXECUTABLE_FORMAT STREQUAL "ELF" AND NOT CORVANE_SANITIZE)
+        set(script "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/corvane.map")
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${script}")
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${script}")
+    endif()
+endfunction()
+
 # Windows has no search path for libraries but the program's own folder.
 if(MINGW AND CMAKE_CROSSCOMPILING)
     foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)

@@ -68,6 +68,13 @@ run_windows() {
     ctest_of windows ${1:+-R "$1"}
 }
 
+# Writes the lists of exported names, which the tests compare, for both platforms.
+run_exports() {
+    build release --target write-exports
+    build windows --target write-exports
+    git diff --stat -- tests/exports
+}
+
 # Compiles everything with the other compiler and in the other language mode; running the tests once
 # with the other compiler's code is enough.
 run_clang() {

@@ -18,8 +18,8 @@ needs_of() {
     case $1 in
         demo) echo "$base" ;;
         test | sanitize) echo "$base $tests" ;;
-        windows)
-            echo "$base googletest:/usr/src/googletest/CMakeLists.txt
+        windows | exports)
+            echo "$base $tests googletest:/usr/src/googletest/CMakeLists.txt
                 g++-mingw-w64-x86-64-posix:x86_64-w64-mingw32-g++-posix wine64:/usr/lib/wine/wine64
                 wine:wine"
             ;;
