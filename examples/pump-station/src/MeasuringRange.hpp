@@ -1,0 +1,16 @@
+#pragma once
+
+// The values that a measurement can take.
+
+namespace pump_station {
+
+struct MeasuringRange {
+    double low = 0;
+    double high = 100;
+
+    [[nodiscard]] bool contains(double value) const noexcept {
+        return value >= low && value <= high;
+    }
+};
+
+} // namespace pump_station
