@@ -1,11 +1,12 @@
 // Plays the input as an editing session in a time stamp box and in a UUID box. After every step the
 // text must have its canonical shape and the selection must lie within it.
+#include "promise.hpp"
+
 #include <corvane/workbench/bindings/functional.hpp>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,17 +15,12 @@
 namespace {
 
 using namespace corvane::workbench::bindings::functional;
+using corvane::fuzz::promise;
 
 constexpr std::wstring_view kDigits = L"0123456789";
 constexpr std::wstring_view kHexadecimalDigits = L"0123456789abcdefABCDEF";
 constexpr std::wstring_view kTimeStampKeys = L"0123456789-/ :.,+ZzTtx\x0665\x20ac\xd83d";
 constexpr std::wstring_view kUuidKeys = L"0123456789abcdefABCDEF-{}gG \x0665\x20ac\xd83d";
-
-void require(bool condition) {
-    if (!condition) {
-        std::abort();
-    }
-}
 
 bool isOneOf(wchar_t character, std::wstring_view set) {
     return set.find(character) != std::wstring_view::npos;
@@ -139,20 +135,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (Bytes bytes({data, size}); !bytes.empty();) {
         edit(timeStamp, bytes, kTimeStampKeys);
         AdjustTimeStampText()(timeStamp.text, timeStamp.selectionStart, timeStamp.selectionEnd);
-        require(isTimeStamp(timeStamp.text));
-        require(std::max(timeStamp.selectionStart, timeStamp.selectionEnd) <=
-                timeStamp.text.size());
+        promise(isTimeStamp(timeStamp.text), "a time stamp has its shape");
+        promise(std::max(timeStamp.selectionStart, timeStamp.selectionEnd) <= timeStamp.text.size(),
+                "the selection is within the time stamp");
     }
 
     Box uuid;
     for (Bytes bytes({data, size}); !bytes.empty();) {
         edit(uuid, bytes, kUuidKeys);
         AdjustUuidText()(uuid.text, uuid.selectionStart, uuid.selectionEnd);
-        require(isUuid(uuid.text));
-        require(std::max(uuid.selectionStart, uuid.selectionEnd) <= uuid.text.size());
+        promise(isUuid(uuid.text), "a UUID has its shape");
+        promise(std::max(uuid.selectionStart, uuid.selectionEnd) <= uuid.text.size(),
+                "the selection is within the UUID");
         Box again = uuid;
         AdjustUuidText()(again.text, again.selectionStart, again.selectionEnd);
-        require(again == uuid);
+        promise(again == uuid, "an adjusted UUID stays as it is");
     }
     return 0;
 }
