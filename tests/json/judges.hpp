@@ -127,6 +127,8 @@ inline bool hasBigInteger(std::string_view text) {
 struct Judgement {
     bool accepted = false;
     std::wstring error;
+    /// nlohmann takes a NUL character for the end of the text.
+    bool nlohmannCanJudge = true;
     bool nlohmannAccepted = false;
     /// simdjson has no integers beyond 64 bits, so that it has nothing to say about such a text.
     bool simdjsonCanJudge = true;
@@ -144,7 +146,7 @@ struct Judgement {
     }
 
     [[nodiscard]] bool isUnanimous() const {
-        return isSame && accepted == nlohmannAccepted &&
+        return isSame && (!nlohmannCanJudge || accepted == nlohmannAccepted) &&
                (!simdjsonCanJudge || accepted == simdjsonAccepted);
     }
 };
@@ -158,8 +160,9 @@ inline Judgement judge(const std::string& text) {
     }
 
     const auto nlohmann = nlohmann::ordered_json::parse(text, nullptr, false);
+    judgement.nlohmannCanJudge = text.find('\0') == std::string::npos;
     judgement.nlohmannAccepted = !nlohmann.is_discarded();
-    if (value && judgement.nlohmannAccepted) {
+    if (value && judgement.nlohmannCanJudge && judgement.nlohmannAccepted) {
         judgement.isSame = isSame(*value, nlohmann);
     }
 
