@@ -25,7 +25,7 @@ configure() {
     }
 }
 
-run_skillbench_build() { build tools --target skillbench pump-station >&2; }
+run_skillbench_build() { build tools --target skillbench pump-station first-skill >&2; }
 
 run_demo() {
     build tools --target pump-station-demo pump-station >&2
@@ -132,4 +132,7 @@ run_package() {
         -DCMAKE_BUILD_TYPE=Release >/dev/null
     cmake --build "$place/build"
     "$place/build/consumer"
+    cmake -S examples/first-skill -B "$place/first-skill" -G Ninja \
+        -DCMAKE_PREFIX_PATH="$checkout/$place/installed" -DCMAKE_BUILD_TYPE=Release >/dev/null
+    cmake --build "$place/first-skill"
 }

@@ -1,0 +1,149 @@
+#include "Mixer.hpp"
+
+#include "editors.hpp"
+
+#include <corvane/utils/json/decoder/Array.hpp>
+#include <corvane/utils/json/decoder/Object.hpp>
+#include <corvane/utils/json/decoder/Value.hpp>
+#include <corvane/utils/json/encoder/Array.hpp>
+#include <corvane/utils/json/encoder/Object.hpp>
+#include <corvane/utils/json/encoder/Value.hpp>
+#include <corvane/utils/numeric/format.hpp>
+#include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/config/Context.hpp>
+#include <corvane/workbench/config/throwUnknownParameterError.hpp>
+#include <corvane/workbench/model/Attribute.hpp>
+#include <corvane/workbench/model/Element.hpp>
+
+namespace first_skill {
+
+namespace {
+
+const workbench::bindings::PropertyKey kTopSpeed;
+const workbench::bindings::PropertyKey kShare;
+
+} // namespace
+
+void Mixer::configureProperties(PropertyConfigurationContext& context) {
+    context.configure(kTopSpeed, {.state = [this] {
+                          return check(_topSpeed > 0 && _topSpeed <= 3000,
+                                       "The top speed must lie between 1 and 3000.");
+                      }});
+    context.configure(_leader.propertyId(), {.state = [this] { return leaderState(); }},
+                      {.crossReferenceController = &_leader});
+    context.configure(
+        kShare,
+        {.state = [this] { return check(_share > 0, "The share must be greater than 0 %."); },
+         .visibility = [this] { return static_cast<bool>(_leader); },
+         .visibilityDependencies = {_leader.propertyId()}});
+    context.configure(
+        Step::kList,
+        {.state = [this] { return stepsState(); }, .stateDependencies = {Step::kList, kTopSpeed}},
+        {.subPropertyContainer = &_steps});
+}
+
+Mixer::PropertyState Mixer::leaderState() const {
+    if (!_leader) {
+        return {};
+    }
+    const auto speed = _leader.attribute();
+    return speed ? PropertyState() : tl::unexpected(speed.error());
+}
+
+Mixer::PropertyState Mixer::stepsState() const {
+    for (std::size_t index = 0; index < _steps.size(); ++index) {
+        if (_steps[index].speed > _topSpeed) {
+            return tl::unexpected(text("No step may be faster than the top speed."));
+        }
+    }
+    return {};
+}
+
+void Mixer::load(utils::json::decoder::Object& object, workbench::config::Context& context) {
+    for (const auto& [name, value] : object) {
+        if (name == "topSpeed") {
+            _topSpeed = value.asInt64();
+        } else if (name == "leader") {
+            context.resolve(workbench::config::Context::ReferenceKey(value), _leader);
+        } else if (name == "share") {
+            _share = value.asInt64();
+        } else if (name == "steps") {
+            for (utils::json::decoder::Value& row : value.asArray()) {
+                Step step;
+                step.load(row);
+                _steps.insert(_steps.size(), step);
+            }
+        } else {
+            workbench::config::throwUnknownParameterError(name);
+        }
+    }
+}
+
+void Mixer::save(utils::json::encoder::Object& object) const {
+    object.addMember("topSpeed").writeNumber(utils::numeric::format(_topSpeed).view());
+    if (_leader) {
+        _leader.saveTo(object, "leader");
+        object.addMember("share").writeNumber(utils::numeric::format(_share).view());
+    }
+    if (_steps.size() > 0) {
+        auto rows = object.addMember("steps").writeArray();
+        for (std::size_t index = 0; index < _steps.size(); ++index) {
+            _steps[index].saveTo(rows);
+        }
+    }
+}
+
+void Mixer::makeDefault() {
+    _topSpeed = 1500;
+}
+
+bool Mixer::forEachAttribute(
+    const utils::core::function_ref<bool(const workbench::model::Attribute&)>& callback) const {
+    using workbench::model::Attribute;
+    return callback(Attribute("speed", Attribute::Access::ReadOnly, workbench::data::DataType::kAny,
+                              workbench::io::Direction::Read));
+}
+
+void Mixer::forEachEditableProperty(
+    utils::core::function_ref<void(const workbench::skill::EditableProperty&)> callback) {
+    using workbench::skill::EditableProperty;
+    callback(numberEditor("topSpeed", "Top speed", propertyHandle(kTopSpeed), _topSpeed));
+    callback({.name = "leader",
+              .displayName = text("Follows"),
+              .editor = EditableProperty::Editor::Reference,
+              .property = propertyHandle(_leader.propertyId()),
+              .text = [this] { return utils::string::toWide(_leader.primaryKey()); }});
+    callback(numberEditor("share", "Share (%)", propertyHandle(kShare), _share));
+
+    EditableProperty steps;
+    steps.name = "steps";
+    steps.displayName = text("Steps");
+    steps.editor = EditableProperty::Editor::SubElementList;
+    steps.property = propertyHandle(Step::kList);
+    steps.text = [this] { return std::to_wstring(_steps.size()); };
+    steps.forEachSubElement =
+        [this](const utils::core::function_ref<void(workbench::skill::SubElement&)>& visit) {
+            for (std::size_t index = 0; index < _steps.size(); ++index) {
+                visit(_steps[index]);
+            }
+        };
+    steps.insertSubElement = [this, list = steps.property](std::size_t index) -> State {
+        if (index > _steps.size()) {
+            return tl::unexpected(text("There is no such step."));
+        }
+        _steps.insert(index, Step());
+        list.publish(workbench::bindings::Action::Insert, index);
+        return {};
+    };
+    steps.removeSubElement = [this, list = steps.property](std::size_t index) -> State {
+        if (index >= _steps.size()) {
+            return tl::unexpected(text("There is no such step."));
+        }
+        _steps.remove(index);
+        list.publish(workbench::bindings::Action::Remove, index);
+        return {};
+    };
+    callback(steps);
+}
+
+} // namespace first_skill

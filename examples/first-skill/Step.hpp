@@ -1,0 +1,42 @@
+#pragma once
+
+// A step of a mixer's recipe: a row of its list.
+
+#include "names.hpp"
+
+#include <corvane/workbench/bindings/PropertyKey.hpp>
+#include <corvane/workbench/skill/SubElement.hpp>
+
+#include <cstdint>
+#include <string>
+
+namespace corvane::utils::json::decoder {
+class Value;
+}
+namespace corvane::utils::json::encoder {
+class Array;
+}
+
+namespace first_skill {
+
+class Step final : public workbench::skill::SubElement {
+public:
+    /// The mixer's property that holds the steps.
+    static const workbench::bindings::PropertyKey kList;
+
+    std::string ingredient;
+    std::int64_t speed = 100;
+
+    void load(utils::json::decoder::Value& row);
+    void saveTo(utils::json::encoder::Array& rows) const;
+
+    std::wstring displayName() const override;
+    void forEachEditableProperty(
+        utils::core::function_ref<void(const workbench::skill::EditableProperty&)> callback)
+        override;
+
+private:
+    void configureProperties(PropertyConfigurationContext& context) override;
+};
+
+} // namespace first_skill
