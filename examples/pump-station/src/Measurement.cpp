@@ -77,6 +77,7 @@ void Measurement::configureProperties(PropertyConfigurationContext& context) {
                                                           "lie above its start.");
                                        },
                                    .stateDependencies = {kRangeLow}});
+    alarmLimits_.link();
     // The rule looks at all rows, so it runs again whenever the list is published, by a row or by
     // an insertion or removal: the list depends on itself.
     context.configure(AlarmLimit::kListProperty,

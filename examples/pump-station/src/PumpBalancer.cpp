@@ -62,6 +62,7 @@ void PumpBalancer::configureProperties(PropertyConfigurationContext& context) {
     context.configure(kGain, {.state = [this] {
                           return require(gain_ > 0, "The gain must be greater than 0.");
                       }});
+    inputs_.link();
     context.configure(
         WeightedInput::kListProperty,
         {.state = [this] { return require(inputs_.size() > 0, "Add an attribute to weigh up."); },

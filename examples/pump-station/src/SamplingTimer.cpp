@@ -53,6 +53,7 @@ void SamplingTimer::configureProperties(PropertyConfigurationContext& context) {
                           return require(seconds(interval_) >= 0.001,
                                          "The interval must not be shorter than 1ms.");
                       }});
+    tasks_.link();
     context.configure(TriggeredTask::kListProperty,
                       {.state =
                            [this] {

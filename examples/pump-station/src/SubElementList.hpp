@@ -30,10 +30,20 @@ public:
     [[nodiscard]] std::size_t size() const noexcept { return rows_.size(); }
     [[nodiscard]] Row& operator[](std::size_t index) const { return *rows_[index]; }
 
-    void append(std::unique_ptr<Row> row) { insert(rows_.size(), std::move(row)); }
+    /// Adds a row while its element is loaded or copied. The row is not linked yet: linking asks it
+    /// for its error count, which its references can tell only when the whole file is known.
+    void append(std::unique_ptr<Row> row) { rows_.push_back(std::move(row)); }
+
+    /// Links all rows and counts their errors; to be called by the element when it configures its
+    /// properties.
+    void link() { subPropertyContainerListChanged({.updateEnclosingContainers = true}); }
 
     /// Inserts the row that is proposed for the index.
-    Row& insert(std::size_t index) { return insert(index, makeRow_(index)); }
+    void insert(std::size_t index) {
+        const auto position = std::next(rows_.begin(), static_cast<std::ptrdiff_t>(index));
+        Row& row = **rows_.insert(position, makeRow_(index));
+        row.setEnclosingPropertyContainer(*this, {});
+    }
 
     void remove(std::size_t index) {
         const auto position = std::next(rows_.begin(), static_cast<std::ptrdiff_t>(index));
@@ -46,13 +56,6 @@ public:
 private:
     using Container = corvane::workbench::bindings::PropertyContainer;
     using CrossReference = corvane::workbench::bindings::CrossReferenceController;
-
-    Row& insert(std::size_t index, std::unique_ptr<Row> row) {
-        Row& inserted = *row;
-        rows_.insert(std::next(rows_.begin(), static_cast<std::ptrdiff_t>(index)), std::move(row));
-        inserted.setEnclosingPropertyContainer(*this, {});
-        return inserted;
-    }
 
     void forEachSubPropertyContainer(
         const corvane::utils::core::function_ref<void(Container&)>& callback,
