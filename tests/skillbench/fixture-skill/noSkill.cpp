@@ -1,0 +1,7 @@
+// A library without a skill.
+
+extern "C" int corvaneTestNoSkill();
+
+extern "C" int corvaneTestNoSkill() {
+    return 0;
+}

@@ -1,0 +1,28 @@
+// Ends a command: the sentence that the user reads (UTF-8) and the exit code.
+#pragma once
+
+#include "ExitCode.hpp"
+
+#include <stdexcept>
+#include <string>
+
+namespace corvane::skillbench {
+
+class Failure : public std::runtime_error {
+public:
+    Failure(ExitCode exitCode, const std::string& sentence)
+        : std::runtime_error(sentence), _exitCode(exitCode) {}
+
+    [[nodiscard]] ExitCode exitCode() const noexcept { return _exitCode; }
+
+private:
+    ExitCode _exitCode;
+};
+
+/// The command line itself is wrong: run() adds where the help is.
+class UsageFailure final : public Failure {
+public:
+    explicit UsageFailure(const std::string& sentence) : Failure(kWrongUsage, sentence) {}
+};
+
+} // namespace corvane::skillbench

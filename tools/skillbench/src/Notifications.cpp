@@ -1,0 +1,198 @@
+#include "Notifications.hpp"
+
+#include "editableProperties.hpp"
+#include "referenceProperty.hpp"
+#include "text.hpp"
+
+#include <corvane/workbench/bindings/Action.hpp>
+#include <corvane/workbench/bindings/PropertyContainer.hpp>
+#include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/model/internal/BasicElementReference.hpp>
+#include <corvane/workbench/skill/EditableProperty.hpp>
+#include <corvane/workbench/skill/SubElement.hpp>
+
+#include <cstddef>
+#include <functional>
+#include <ostream>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace corvane::skillbench {
+
+namespace {
+
+namespace bindings = workbench::bindings;
+namespace host = workbench::host;
+namespace skill = workbench::skill;
+using bindings::PropertyController;
+using workbench::model::internal::BasicElementReference;
+
+constexpr std::string_view kArrow = " → ";
+
+std::string actionText(bindings::Action action, std::size_t index) {
+    switch (action) {
+    case bindings::Action::Update:
+        return {};
+    case bindings::Action::Insert:
+        return "  (row " + std::to_string(index) + " inserted)";
+    case bindings::Action::Remove:
+        return "  (row " + std::to_string(index) + " removed)";
+    case bindings::Action::Move:
+        return "  (row moved to " + std::to_string(index) + ")";
+    }
+    return {};
+}
+
+} // namespace
+
+/// The subscriptions to one element. Those to the rows of its lists may have lost their rows
+/// without notice: a subscription must not be ended then, it ended with its row.
+class Notifications::Watch {
+public:
+    Watch(Notifications& notifications, host::ElementNode& element) : _element(element) {
+        const auto add = [&](const PropertyPlace& place) {
+            if (!place.property.property) {
+                return;
+            }
+            auto subscription = notifications.subscribe(element, place);
+            if (place.row == nullptr) {
+                _own.push_back(std::move(subscription));
+            } else {
+                _ofRows.emplace_back(place.row, std::make_unique<PropertyController::Subscription>(
+                                                    std::move(subscription)));
+            }
+        };
+        forEachProperty(element, add);
+        _errorCount = element.properties().subscribeToPropertyErrorCount(
+            [&notifications, &element] { notifications.errorCountChanged(element); });
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+    ~Watch() {
+        std::unordered_set<const skill::SubElement*> rows;
+        if (!_ofRows.empty()) {
+            const auto note = [&](const PropertyPlace& place) { rows.insert(place.row); };
+            forEachProperty(_element, note);
+        }
+        for (auto& [row, subscription] : _ofRows) {
+            if (!rows.contains(row)) {
+                // Frees the memory without running the destructor.
+                ::operator delete(subscription.release());
+            }
+        }
+    }
+
+private:
+    const host::ElementNode& _element;
+    std::vector<PropertyController::Subscription> _own;
+    std::vector<
+        std::pair<const skill::SubElement*, std::unique_ptr<PropertyController::Subscription>>>
+        _ofRows;
+    bindings::PropertyContainer::ErrorCountSubscription _errorCount;
+};
+
+Notifications::Notifications(host::Workbench& workbench, std::ostream& out)
+    : _workbench(workbench), _out(out) {
+    refresh();
+    _workbench.addObserver(*this);
+}
+
+Notifications::~Notifications() {
+    _workbench.removeObserver(*this);
+}
+
+void Notifications::refresh() {
+    _watches.clear();
+    watchBelow(_workbench.root());
+}
+
+void Notifications::watchBelow(host::ElementNode& element) {
+    _watches.emplace(&element, std::make_unique<Watch>(*this, element));
+    for (std::size_t index = 0; index < element.childCount(); ++index) {
+        watchBelow(element.child(index));
+    }
+}
+
+void Notifications::forgetBelow(const host::ElementNode& element) {
+    _watches.erase(&element);
+    for (std::size_t index = 0; index < element.childCount(); ++index) {
+        forgetBelow(element.child(index));
+    }
+}
+
+PropertyController::Subscription Notifications::subscribe(const host::ElementNode& element,
+                                                          const PropertyPlace& place) const {
+    // The description is copied: it is as good as the element or the row, which outlives the call.
+    const auto where = [&element, path = place.path] { return element.primaryKey() + "." + path; };
+    PropertyController::SubscriptionCallbacks callbacks;
+    callbacks.value = [this, where, property = place.property](bindings::Action action,
+                                                               std::size_t index) {
+        line("value", where()) << ": " << valueText(property) << actionText(action, index) << '\n';
+    };
+    callbacks.state = [this, where, handle = place.property.property] {
+        const auto& state = handle.state();
+        line("state", where()) << ": " << (state ? "ok" : "error: " + onOneLine(state.error()))
+                               << '\n';
+    };
+    callbacks.visibility = [this, where, handle = place.property.property] {
+        line("visibility", where()) << ": " << (handle.visible() ? "visible" : "hidden") << '\n';
+    };
+    return place.property.property.subscribe(std::move(callbacks));
+}
+
+void Notifications::errorCountChanged(const host::ElementNode& element) const {
+    line("errors", keyText(element.primaryKey()))
+        << ": " << element.properties().propertyErrorCount() << '\n';
+}
+
+void Notifications::elementAdded(const host::ElementNode& element) {
+    line("added", element.primaryKey()) << '\n';
+}
+
+void Notifications::elementRenamed(const host::ElementNode& element, std::string_view oldKey) {
+    line("renamed", oldKey) << kArrow << onOneLine(element.primaryKey()) << '\n';
+}
+
+void Notifications::elementMoved(const host::ElementNode& element, std::string_view oldKey) {
+    line("moved", oldKey) << kArrow << onOneLine(element.primaryKey()) << '\n';
+}
+
+void Notifications::elementRemoving(const host::ElementNode& element) {
+    line("removing", element.primaryKey()) << '\n';
+    forgetBelow(element);
+}
+
+void Notifications::elementRemoved(std::string_view key) {
+    line("removed", key) << '\n';
+}
+
+void Notifications::elementMembersChanged(const host::ElementNode& element) {
+    line("members", element.primaryKey()) << '\n';
+}
+
+void Notifications::referenceKeyChanged(const BasicElementReference& reference) {
+    line("new key", placeOf(reference)) << ": " << onOneLine(reference.data().primaryKey()) << '\n';
+}
+
+void Notifications::referenceStateChanged(const BasicElementReference& reference) {
+    line("resolution", placeOf(reference))
+        << ": " << onOneLine(reference.data().primaryKey()) << '\n';
+}
+
+std::ostream& Notifications::line(std::string_view what, std::string_view where) const {
+    constexpr std::size_t kColumn = 12;
+    return _out << "  " << what << std::string(kColumn - what.size(), ' ') << onOneLine(where);
+}
+
+std::string Notifications::placeOf(const BasicElementReference& reference) const {
+    const host::ElementNode* owner = _workbench.ownerOf(reference);
+    if (owner == nullptr) {
+        return "(no element)";
+    }
+    const std::string path = propertyPath(reference, *owner);
+    return path.empty() ? owner->primaryKey() : owner->primaryKey() + "." + path;
+}
+
+} // namespace corvane::skillbench

@@ -1,0 +1,99 @@
+#include "OpenConfiguration.hpp"
+
+#include "CommandLine.hpp"
+#include "Failure.hpp"
+#include "ProgressBar.hpp"
+#include "text.hpp"
+
+#include <fstream>
+#include <ostream>
+#include <system_error>
+
+namespace corvane::skillbench {
+
+namespace {
+
+namespace host = workbench::host;
+
+void requireReadable(const std::filesystem::path& file) {
+    std::error_code error;
+    const auto status = std::filesystem::status(file, error);
+    const std::string name = inQuotes(pathText(file));
+    if (status.type() == std::filesystem::file_type::not_found) {
+        throw Failure(kWrongUsage, name + " does not exist");
+    }
+    if (error) {
+        throw Failure(kWrongUsage, name + " cannot be read: " + error.message());
+    }
+    if (std::filesystem::is_directory(status)) {
+        throw Failure(kWrongUsage, name + " is a directory, not a configuration");
+    }
+    if (!std::ifstream(file, std::ios::binary).good()) {
+        throw Failure(kWrongUsage, name + " cannot be read");
+    }
+}
+
+} // namespace
+
+void ConfigurationArguments::addTo(CommandLine& commandLine) {
+    commandLine.addValues("--skill", "LIBRARY...", skills,
+                          "the libraries of the skills that the configuration needs");
+    commandLine.addFlag("--keep-going", keepGoing, "leave out what cannot be loaded");
+    commandLine.addParameter("CONFIGURATION", configuration, "the configuration file");
+}
+
+OpenConfiguration::OpenConfiguration(const ConfigurationArguments& arguments,
+                                     const Streams& streams)
+    : _file(pathOf(arguments.configuration)) {
+    if (arguments.skills.empty()) {
+        throw UsageFailure("--skill LIBRARY is missing");
+    }
+    for (const std::string& library : arguments.skills) {
+        if (const auto opened = _workbench.loadSkills(pathOf(library)); !opened) {
+            throw Failure(kWrongUsage, opened.error().text);
+        }
+    }
+    requireReadable(_file);
+    // The first load says whether the second one left something out.
+    _result = load(false, streams);
+    _complete = _result.loaded;
+    if (!_result.loaded && arguments.keepGoing) {
+        _result = load(true, streams);
+    }
+}
+
+OpenConfiguration::~OpenConfiguration() = default;
+
+host::LoadResult OpenConfiguration::load(bool keepGoing, const Streams& streams) {
+    host::LoadOptions options;
+    options.keepGoing = keepGoing;
+    if (!streams.showsProgress) {
+        return _workbench.loadConfiguration(_file, options);
+    }
+    ProgressBar bar(streams.err);
+    options.progress = [&](const host::LoadProgress& progress) {
+        bar.show(progress);
+        return true;
+    };
+    return _workbench.loadConfiguration(_file, options);
+}
+
+void OpenConfiguration::printLoadProblems(std::ostream& to) const {
+    for (const host::Problem& problem : _result.problems) {
+        to << onOneLine(host::toString(problem)) << '\n';
+    }
+}
+
+void OpenConfiguration::requireWritable(const std::filesystem::path& target) const {
+    if (!_result.loaded) {
+        throw Failure(kProblems,
+                      inQuotes(pathText(_file)) + " cannot be loaded; no file was written");
+    }
+    std::error_code ignored;
+    if (!_complete && std::filesystem::equivalent(_file, target, ignored)) {
+        throw Failure(kProblems, "what was left out of " + inQuotes(pathText(_file)) +
+                                     " would be lost; write to another file with -o");
+    }
+}
+
+} // namespace corvane::skillbench

@@ -1,0 +1,65 @@
+// A workbench with the skills and the configuration that a command line names.
+#pragma once
+
+#include "Streams.hpp"
+
+#include <corvane/workbench/host/Problem.hpp>
+#include <corvane/workbench/host/Workbench.hpp>
+
+#include <filesystem>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace corvane::skillbench {
+
+class CommandLine;
+
+/// What the commands that load a configuration have in common.
+struct ConfigurationArguments {
+    std::vector<std::string> skills;
+    std::string configuration;
+    bool keepGoing = false;
+
+    /// Describes --skill, CONFIGURATION and --keep-going.
+    void addTo(CommandLine& commandLine);
+};
+
+class OpenConfiguration {
+public:
+    /// Opens the libraries and loads the configuration, which may fail: see loaded(). Throws a
+    /// Failure when a library or the file cannot be opened.
+    OpenConfiguration(const ConfigurationArguments& arguments, const Streams& streams);
+    OpenConfiguration(const OpenConfiguration&) = delete;
+    OpenConfiguration& operator=(const OpenConfiguration&) = delete;
+    ~OpenConfiguration();
+
+    [[nodiscard]] workbench::host::Workbench& workbench() noexcept { return _workbench; }
+    [[nodiscard]] const workbench::host::Workbench& workbench() const noexcept {
+        return _workbench;
+    }
+    [[nodiscard]] const std::filesystem::path& file() const noexcept { return _file; }
+    /// Whether the workbench has the configuration.
+    [[nodiscard]] bool loaded() const noexcept { return _result.loaded; }
+    /// Whether it has all of it; otherwise --keep-going left parts out.
+    [[nodiscard]] bool complete() const noexcept { return _complete; }
+    /// What the load had to say, in the order of the file.
+    [[nodiscard]] const std::vector<workbench::host::Problem>& loadProblems() const noexcept {
+        return _result.problems;
+    }
+    /// Prints the problems of the load, each on a line of its own.
+    void printLoadProblems(std::ostream& to) const;
+    /// Throws a Failure when the configuration is not loaded, or when writing it to the target
+    /// would lose parts that --keep-going left out.
+    void requireWritable(const std::filesystem::path& target) const;
+
+private:
+    [[nodiscard]] workbench::host::LoadResult load(bool keepGoing, const Streams& streams);
+
+    workbench::host::Workbench _workbench;
+    std::filesystem::path _file;
+    workbench::host::LoadResult _result;
+    bool _complete = false;
+};
+
+} // namespace corvane::skillbench

@@ -1,0 +1,35 @@
+// One line that says how far a load has come. It appears when the load takes long and disappears
+// when it ends, so that short loads show nothing.
+#pragma once
+
+#include <corvane/workbench/host/LoadProgress.hpp>
+
+#include <chrono>
+#include <iosfwd>
+#include <string>
+
+namespace corvane::skillbench {
+
+class ProgressBar {
+public:
+    static constexpr std::chrono::milliseconds kPatience{300};
+
+    /// Shows nothing for as long as `patience`.
+    explicit ProgressBar(std::ostream& terminal, std::chrono::milliseconds patience = kPatience);
+    ProgressBar(const ProgressBar&) = delete;
+    ProgressBar& operator=(const ProgressBar&) = delete;
+    /// Takes the line away.
+    ~ProgressBar();
+
+    void show(const workbench::host::LoadProgress& progress);
+
+    /// The line without its end, such as "reading    [##########          ]  50 %".
+    [[nodiscard]] static std::string line(const workbench::host::LoadProgress& progress);
+
+private:
+    std::ostream& _terminal;
+    std::chrono::steady_clock::time_point _start;
+    std::string _shown;
+};
+
+} // namespace corvane::skillbench

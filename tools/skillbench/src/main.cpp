@@ -1,0 +1,24 @@
+// skillbench: loads skills, and shows, checks, edits and saves configurations.
+
+#include "console.hpp"
+#include "run.hpp"
+
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+int main(int argc, char** argv) {
+    namespace skillbench = corvane::skillbench;
+    try {
+        skillbench::prepareConsole();
+        const std::vector<std::string> arguments = skillbench::commandLineArguments(argc, argv);
+        const int exitCode = skillbench::run(
+            arguments, {std::cout, std::cerr, skillbench::isErrorStreamATerminal()});
+        std::cout.flush();
+        return exitCode;
+    } catch (const std::exception& exception) {
+        std::cerr << "skillbench: " << exception.what() << '\n';
+        return 1;
+    }
+}

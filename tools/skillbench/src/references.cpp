@@ -1,0 +1,96 @@
+#include "CommandLine.hpp"
+#include "Failure.hpp"
+#include "OpenConfiguration.hpp"
+#include "commands.hpp"
+#include "editableProperties.hpp"
+#include "referenceProperty.hpp"
+#include "text.hpp"
+
+#include <corvane/workbench/model/internal/BasicElementReference.hpp>
+
+#include <algorithm>
+#include <cstddef>
+#include <ostream>
+#include <utility>
+#include <vector>
+
+namespace corvane::skillbench {
+
+namespace {
+
+namespace host = workbench::host;
+
+class UsePrinter {
+public:
+    UsePrinter(std::vector<host::ReferenceUse> uses, std::ostream& out)
+        : _uses(std::move(uses)), _out(out) {}
+
+    /// Prints what an element and those below it hold.
+    void printBelow(const host::ElementNode& element) {
+        const auto print = [&](const PropertyPlace& place) {
+            const auto isPlace = [&](const host::ReferenceUse& use) {
+                return isProperty(*use.reference, place.property);
+            };
+            const auto use = std::find_if(_uses.begin(), _uses.end(), isPlace);
+            if (use != _uses.end()) {
+                printUse(element.primaryKey() + "." + place.path, *use);
+                _uses.erase(use);
+            }
+        };
+        forEachProperty(element, print);
+        for (std::size_t index = 0; index < element.childCount() && !_uses.empty(); ++index) {
+            printBelow(element.child(index));
+        }
+    }
+
+    /// Prints the references that no property shows.
+    void printRest() const {
+        for (const host::ReferenceUse& use : _uses) {
+            printUse(use.owner != nullptr ? use.owner->primaryKey() : "(no element)", use);
+        }
+    }
+
+private:
+    void printUse(const std::string& place, const host::ReferenceUse& use) const {
+        _out << onOneLine(place) << " → " << onOneLine(use.reference->data().primaryKey()) << '\n';
+    }
+
+    std::vector<host::ReferenceUse> _uses;
+    std::ostream& _out;
+};
+
+} // namespace
+
+int references(Arguments arguments, const Streams& streams) {
+    ConfigurationArguments configurationArguments;
+    std::string key;
+    CommandLine commandLine("skillbench references",
+                            "Lists who refers to an element or to its attributes, events and "
+                            "tasks: each property and the key that it holds.");
+    configurationArguments.addTo(commandLine);
+    commandLine.addParameter("KEY", key, "the key of the element");
+    if (!commandLine.parse(arguments, streams.out)) {
+        return kDone;
+    }
+
+    const OpenConfiguration configuration(configurationArguments, streams);
+    configuration.printLoadProblems(streams.err);
+    if (!configuration.loaded()) {
+        return kProblems;
+    }
+    const host::Workbench& workbench = configuration.workbench();
+    const host::ElementNode* element = workbench.findElement(key);
+    if (element == nullptr) {
+        throw Failure(kProblems, "there is no element " + inQuotes(key));
+    }
+    std::vector<host::ReferenceUse> uses = workbench.referencesTo(*element);
+    if (uses.empty()) {
+        streams.out << "nothing refers to " << onOneLine(keyText(key)) << '\n';
+    }
+    UsePrinter printer(std::move(uses), streams.out);
+    printer.printBelow(workbench.root());
+    printer.printRest();
+    return kDone;
+}
+
+} // namespace corvane::skillbench

@@ -1,0 +1,12 @@
+// The tree of a configuration as JSON.
+#pragma once
+
+#include <iosfwd>
+
+namespace corvane::skillbench {
+
+class OpenConfiguration;
+
+void showJson(const OpenConfiguration& configuration, std::ostream& out);
+
+} // namespace corvane::skillbench

@@ -1,0 +1,28 @@
+// Texts as the commands print them. All narrow text is UTF-8.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace corvane::skillbench {
+
+[[nodiscard]] std::string inQuotes(std::string_view text);
+
+/// The text with line breaks and other control characters as JSON escapes, so that it stays on its
+/// line and the terminal takes it for text.
+[[nodiscard]] std::string onOneLine(std::string_view text);
+[[nodiscard]] std::string onOneLine(std::wstring_view text);
+
+[[nodiscard]] std::filesystem::path pathOf(std::string_view text);
+[[nodiscard]] std::string pathText(const std::filesystem::path& path);
+
+/// "no errors", "1 error", "2 errors", ...
+[[nodiscard]] std::string countText(std::uint64_t count, std::string_view singular);
+
+/// The key, or "(root)" for the empty one.
+[[nodiscard]] std::string keyText(std::string_view key);
+
+} // namespace corvane::skillbench
