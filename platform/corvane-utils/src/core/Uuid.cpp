@@ -1,5 +1,8 @@
 #include <corvane/utils/core/Uuid.hpp>
 
+#include <algorithm>
+#include <array>
+#include <functional>
 #include <random>
 
 namespace corvane::utils::core {
@@ -25,6 +28,14 @@ constexpr std::size_t kTextLength = 36;
     return -1;
 }
 
+std::mt19937_64 seededGenerator() {
+    std::random_device source;
+    std::array<std::uint32_t, 8> words;
+    std::generate(words.begin(), words.end(), std::ref(source));
+    std::seed_seq seed(words.begin(), words.end());
+    return std::mt19937_64(seed);
+}
+
 } // namespace
 
 std::optional<Uuid> Uuid::parse(std::string_view text) noexcept {
@@ -48,11 +59,12 @@ std::optional<Uuid> Uuid::parse(std::string_view text) noexcept {
 }
 
 Uuid Uuid::generate() {
-    std::random_device source;
+    // The system's source can take 100 µs for one identifier, so it only gives the seed.
+    thread_local std::mt19937_64 generator = seededGenerator();
     Bytes bytes;
-    for (std::size_t index = 0; index != bytes.size(); index += 4) {
-        const std::uint32_t word = source();
-        for (std::size_t offset = 0; offset != 4; ++offset) {
+    for (std::size_t index = 0; index != bytes.size(); index += 8) {
+        const std::uint64_t word = generator();
+        for (std::size_t offset = 0; offset != 8; ++offset) {
             bytes[index + offset] = static_cast<std::uint8_t>(word >> (8 * offset));
         }
     }

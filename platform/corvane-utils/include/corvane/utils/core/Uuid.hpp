@@ -28,7 +28,8 @@ public:
     [[nodiscard]] static std::optional<Uuid> parse(std::string_view text) noexcept;
 
     /// Makes a random identifier (version 4). Safe to call from any thread.
-    /// @throws std::runtime_error when the system has no source of randomness.
+    /// @throws std::runtime_error when the system has no source of randomness (a thread's first
+    ///         call only).
     [[nodiscard]] static Uuid generate();
 
     /// The form 8-4-4-4-12 in lower case.
