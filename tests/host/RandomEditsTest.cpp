@@ -1,5 +1,6 @@
-// Random edits on a big tree, with every reference compared after each edit with what its key text
-// means when it is read from scratch by code of this test's own.
+// Random edits on a big tree. References are compared with what their key text means when it is
+// read from scratch by code of this test's own: those that were told of an edit after each one, and
+// all of them every now and then, because all of them after each edit would take hours.
 
 #include "WorkbenchFixture.hpp"
 
@@ -27,7 +28,7 @@ constexpr int kCompareAllEvery = 50;
 constexpr int kEdits = 2'000;
 constexpr int kElements = 300;
 constexpr int kReferences = 750;
-constexpr int kCompareAllEvery = 10;
+constexpr int kCompareAllEvery = 25;
 #endif
 
 /// Reads a key as its grammar says: components separated by dots, one in brackets up to its "]".
@@ -290,11 +291,11 @@ TEST_F(RandomEdits, KeepEveryReferenceWhereItsKeySays) {
         default:
             setRandomReference(all);
         }
-        for (const auto& [reference, count] : told.keyChanges) {
-            ASSERT_EQ(count, 1);
-        }
-        for (const auto& [reference, count] : told.stateChanges) {
-            ASSERT_EQ(count, 1);
+        for (const auto* changes : {&told.keyChanges, &told.stateChanges}) {
+            for (const auto& [reference, count] : *changes) {
+                ASSERT_EQ(count, 1);
+                compare(*reference, reference->data().memberName().has_value());
+            }
         }
         if (edit % kCompareAllEvery == 0) {
             compareAll();

@@ -303,6 +303,23 @@ TEST_F(WorkbenchLoad, SaysThatAFileCannotBeRead) {
     EXPECT_FALSE(workbench.loadConfiguration(folder.path()).loaded);
 }
 
+TEST_F(WorkbenchLoad, RefusesAnEnormousFileWithItsLine) {
+    const TemporaryFolder folder;
+    std::string text = "{\"children\": [";
+    std::string line(9'999, ' ');
+    line += '\n';
+    while (text.size() < 100'000'000) {
+        text += line;
+    }
+    text += "5]}";
+    const LoadResult result = workbench.loadConfiguration(folder.write("a.json", text));
+    EXPECT_FALSE(result.loaded);
+    ASSERT_EQ(result.problems.size(), 1U);
+    EXPECT_EQ(result.problems.front().line, 10'001U);
+    EXPECT_EQ(result.problems.front().column, 1U);
+    EXPECT_EQ(result.problems.front().text, "expected an object, found a number");
+}
+
 #ifndef _WIN32
 TEST_F(WorkbenchLoad, ReadsAFileThatIsRemovedWhileOpen) {
     const TemporaryFolder folder;
