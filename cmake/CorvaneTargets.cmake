@@ -24,6 +24,11 @@ if(NOT DEFINED CMAKE_RUNTIME_OUTPUT_DIRECTORY)
     set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 endif()
 
+# Nobody replaces functions of our libraries at run time: let them call each other directly.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT WIN32)
+    add_compile_options(-fno-semantic-interposition)
+endif()
+
 if(CORVANE_SANITIZE)
     add_compile_options("-fsanitize=${CORVANE_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options("-fsanitize=${CORVANE_SANITIZE}")

@@ -10,7 +10,7 @@
 #include <corvane/utils/numeric/format.hpp>
 #include <corvane/utils/string/BasicStaticString.hpp>
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <memory>
@@ -31,18 +31,20 @@ using DoubleText = utils::string::BasicStaticString<char, 24>;
 /// not fit.
 DoubleText formatDouble(double number) {
     DoubleText text = utils::numeric::format(number);
-    if (text.view().find_first_not_of("-0123456789") != std::string_view::npos) {
+    const auto isDigitOrSign = [](char character) {
+        return (character >= '0' && character <= '9') || character == '-';
+    };
+    if (number != std::trunc(number) || !std::ranges::all_of(text, isDigitOrSign)) {
         return text;
     }
     constexpr std::string_view fraction = ".0";
     if (text.size() + fraction.size() <= DoubleText::capacity()) {
         return text.append(fraction);
     }
-    std::array<char, DoubleText::capacity()> scientific{};
-    const std::to_chars_result end =
-        std::to_chars(scientific.data(), scientific.data() + scientific.size(), number,
-                      std::chars_format::scientific);
-    return DoubleText(std::string_view(scientific.data(), end.ptr));
+    text.overwrite([number](char* begin, char* end) {
+        return std::to_chars(begin, end, number, std::chars_format::scientific).ptr;
+    });
+    return text;
 }
 
 void writeDouble(encoder::Value& target, double number) {

@@ -1,8 +1,7 @@
 #include <corvane/utils/numeric/format.hpp>
 
-#include <array>
 #include <charconv>
-#include <string_view>
+#include <cstddef>
 
 namespace corvane::utils::numeric {
 
@@ -10,11 +9,12 @@ namespace {
 
 template <std::size_t Capacity, class Number>
 [[nodiscard]] string::BasicStaticString<char, Capacity> formatted(Number number) {
-    std::array<char, Capacity> text;
-    // The capacity is that of the longest number, so the conversion cannot fail.
-    const auto result = std::to_chars(text.data(), text.data() + text.size(), number);
-    return string::BasicStaticString<char, Capacity>(
-        std::string_view(text.data(), static_cast<std::size_t>(result.ptr - text.data())));
+    string::BasicStaticString<char, Capacity> text;
+    text.overwrite([number](char* begin, char* end) {
+        // The capacity is that of the longest number, so the conversion cannot fail.
+        return std::to_chars(begin, end, number).ptr;
+    });
+    return text;
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include <corvane/utils/json/encoder/Document.hpp>
 
 #include <array>
+#include <cstddef>
+#include <cstring>
 #include <stdexcept>
 
 #include "../../string/Utf8Sequence.hpp"
@@ -20,6 +22,83 @@ constexpr auto kIsClean = [] {
     }
     return isClean;
 }();
+
+/// Whether any of eight bytes must be looked at on its own: one that is not clean, and perhaps
+/// one that is, above one that is not.
+[[nodiscard]] constexpr bool holdsUnclean(std::uint64_t bytes) noexcept {
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    const auto holdsZero = [](std::uint64_t word) { return (word - ones) & ~word; };
+    return (((bytes - 0x20 * ones) | bytes | holdsZero(bytes ^ ('"' * ones)) |
+             holdsZero(bytes ^ ('\\' * ones))) &
+            (0x80 * ones)) != 0;
+}
+
+template <class Word>
+[[nodiscard]] Word load(const char* from) noexcept {
+    Word word{};
+    std::memcpy(&word, from, sizeof word);
+    return word;
+}
+
+/// Copies a text of clean bytes; returns false, with some of it copied, when there are others.
+[[nodiscard]] bool copyIfClean(std::string_view text, char* to) noexcept {
+    const char* position = text.data();
+    const char* const end = position + text.size();
+    const auto copyWord = [&]<class Word>(Word word) {
+        std::memcpy(to + (position - text.data()), &word, sizeof word);
+        position += sizeof word;
+        return !holdsUnclean(word);
+    };
+    if (text.size() >= sizeof(std::uint64_t)) {
+        while (end - position > static_cast<std::ptrdiff_t>(sizeof(std::uint64_t))) {
+            if (!copyWord(load<std::uint64_t>(position))) {
+                return false;
+            }
+        }
+        // The last word may overlap the one before.
+        position = end - sizeof(std::uint64_t);
+        return copyWord(load<std::uint64_t>(position));
+    }
+    for (; position != end; ++position) {
+        if (!kIsClean[static_cast<unsigned char>(*position)]) {
+            return false;
+        }
+        to[position - text.data()] = *position;
+    }
+    return true;
+}
+
+/// Behind the bytes that may be copied as they are.
+[[nodiscard]] const char* skipClean(const char* position, const char* end) noexcept {
+    while (end - position >= static_cast<std::ptrdiff_t>(sizeof(std::uint64_t)) &&
+           !holdsUnclean(load<std::uint64_t>(position))) {
+        position += sizeof(std::uint64_t);
+    }
+    while (position != end && kIsClean[static_cast<unsigned char>(*position)]) {
+        ++position;
+    }
+    return position;
+}
+
+/// Behind the well-formed sequences of two or three bytes, as far as they can be told without a
+/// second look.
+[[nodiscard]] const char* skipPlainSequences(const char* position, const char* end) noexcept {
+    const auto byteAt = [&](std::size_t index) {
+        return static_cast<unsigned char>(position[index]);
+    };
+    const auto continues = [&](std::size_t index) { return (byteAt(index) & 0xC0U) == 0x80; };
+    while (end - position >= 3) {
+        const unsigned char first = byteAt(0);
+        if (first > 0xE0 && first < 0xF0 && first != 0xED && continues(1) && continues(2)) {
+            position += 3;
+        } else if (first >= 0xC2 && first < 0xE0 && continues(1)) {
+            position += 2;
+        } else {
+            break;
+        }
+    }
+    return position;
+}
 
 void writeEscape(io::OutputStream<char>& stream, char character) {
     static constexpr std::string_view kDigits = "0123456789abcdef";
@@ -103,13 +182,17 @@ void Document::beginElement(std::size_t depth, std::uint64_t ticket) {
     if (levels_.size() < depth || levels_[depth - 1].ticket != ticket) {
         throw std::logic_error("the JSON object or array is complete already");
     }
-    closeDownTo(depth);
-    Level& level = levels_.back();
+    if (levels_.size() > depth || pending_ != kNoTicket) {
+        closeDownTo(depth);
+    }
+    Level& level = levels_[depth - 1];
     if (!level.isEmpty) {
         stream_.put(',');
     }
     level.isEmpty = false;
-    writeLineBreak();
+    if (format_ == Format::Indented) {
+        writeLineBreak();
+    }
 }
 
 void Document::closeDownTo(std::size_t depth) {
@@ -120,7 +203,7 @@ void Document::closeDownTo(std::size_t depth) {
     while (levels_.size() > depth) {
         const Level level = levels_.back();
         levels_.pop_back();
-        if (!level.isEmpty) {
+        if (!level.isEmpty && format_ == Format::Indented) {
             writeLineBreak();
         }
         stream_.put(level.isObject ? '}' : ']');
@@ -128,15 +211,21 @@ void Document::closeDownTo(std::size_t depth) {
 }
 
 void Document::writeLineBreak() {
-    if (format_ == Format::Indented) {
-        stream_.put('\n');
-        for (std::size_t level = 0; level != levels_.size(); ++level) {
-            stream_.write("  ");
-        }
+    stream_.put('\n');
+    for (std::size_t level = 0; level != levels_.size(); ++level) {
+        stream_.write("  ");
     }
 }
 
 void Document::writeQuoted(std::string_view text) {
+    // Most strings are copied as they are.
+    if (char* const room = stream_.prepare(text.size() + 2);
+        room != nullptr && copyIfClean(text, room + 1)) {
+        room[0] = '"';
+        room[text.size() + 1] = '"';
+        stream_.commit(text.size() + 2);
+        return;
+    }
     stream_.put('"');
     const char* position = text.data();
     const char* const end = position + text.size();
@@ -144,22 +233,24 @@ void Document::writeQuoted(std::string_view text) {
     const auto writeRun = [&] {
         stream_.write({written, static_cast<std::size_t>(position - written)});
     };
-    while (position != end) {
-        if (kIsClean[static_cast<unsigned char>(*position)]) {
-            ++position;
-        } else if (static_cast<unsigned char>(*position) < 0x80) {
+    while ((position = skipClean(position, end)) != end) {
+        if (static_cast<unsigned char>(*position) < 0x80) {
             writeRun();
             writeEscape(stream_, *position);
             written = ++position;
-        } else {
-            const auto sequence = string::readUtf8Sequence(position, end);
-            if (!sequence.isWellFormed) {
-                writeRun();
-                stream_.write("\xEF\xBF\xBD"); // U+FFFD
-                written = position + sequence.length;
-            }
-            position += sequence.length;
+            continue;
         }
+        position = skipPlainSequences(position, end);
+        if (position == end || static_cast<unsigned char>(*position) < 0x80) {
+            continue;
+        }
+        const auto sequence = string::readUtf8Sequence(position, end);
+        if (!sequence.isWellFormed) {
+            writeRun();
+            stream_.write("\xEF\xBF\xBD"); // U+FFFD
+            written = position + sequence.length;
+        }
+        position += sequence.length;
     }
     writeRun();
     stream_.put('"');

@@ -32,11 +32,20 @@ public:
     }
     void write(std::basic_string_view<Char> text) {
         if (text.size() <= static_cast<std::size_t>(end_ - position_)) {
-            position_ = std::copy(text.begin(), text.end(), position_);
+            position_ = std::char_traits<Char>::copy(position_, text.data(), text.size()) +
+                        text.size();
         } else {
             writeLarge(text);
         }
     }
+
+    /// Room for that many characters to be written in place and then given to commit(), or null
+    /// when the buffer has not enough left; write() always works.
+    [[nodiscard]] Char* prepare(std::size_t count) noexcept {
+        return count <= static_cast<std::size_t>(end_ - position_) ? position_ : nullptr;
+    }
+    /// Counts characters as written. @pre prepare() gave room for at least as many.
+    void commit(std::size_t count) noexcept { position_ += count; }
 
     /// Hands everything written so far to the sink.
     void flush() {

@@ -53,6 +53,14 @@ public:
     constexpr void push_back(Char character) { append(View(&character, 1)); }
     constexpr void clear() noexcept { size_ = 0; }
 
+    /// Replaces the text by what `write(begin, end)` writes into the whole capacity; it returns
+    /// the end of what it wrote.
+    template <class Write>
+    constexpr void overwrite(Write write) {
+        Char* const begin = characters_.data();
+        size_ = static_cast<std::size_t>(write(begin, begin + Capacity) - begin);
+    }
+
     [[nodiscard]] friend constexpr bool operator==(const BasicStaticString& left,
                                                    const BasicStaticString& right) noexcept {
         return left.view() == right.view();
