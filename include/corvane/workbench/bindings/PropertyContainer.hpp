@@ -36,16 +36,19 @@ class PropertyId;
 /// Used by one thread at a time.
 class CORVANE_WORKBENCH_EXPORT PropertyContainer {
 public:
+    /// What linking and unlinking do with the counts; by default both move along.
     struct SetEnclosingPropertyContainerOptions {
         bool reservedFlag = false;          ///< read by nothing
         bool keepNewContainerCount = false; ///< do not raise the new enclosing container's count
         bool keepOldContainerCount = false; ///< do not lower the former enclosing container's count
     };
 
+    /// What a change of the list does with the links.
     struct SubPropertyContainerListChangedOptions {
         bool updateEnclosingContainers = false; ///< first link every sub-container to this one
     };
 
+    /// Which cross references are visited besides the container's own visible ones.
     struct ForEachCrossReferenceOptions {
         bool recursive = false;        ///< also visit the sub-containers
         bool includeInvisible = false; ///< also visit properties that are not visible
@@ -55,6 +58,7 @@ public:
     /// from. Must not outlive the container.
     class CORVANE_WORKBENCH_EXPORT ErrorCountSubscription {
     public:
+        /// Keeps the constructor that takes it for those who have its one value.
         struct InternalConstructorTag {
             explicit InternalConstructorTag() = default;
         };

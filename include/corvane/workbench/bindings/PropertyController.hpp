@@ -107,6 +107,7 @@ public:
     /// outlive the controller.
     class CORVANE_WORKBENCH_EXPORT Subscription {
     public:
+        /// Keeps the constructor that takes it for those who have its one value.
         struct InternalConstructorTag {
             explicit InternalConstructorTag() = default;
         };

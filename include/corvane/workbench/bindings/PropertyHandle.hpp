@@ -20,6 +20,7 @@ namespace corvane::workbench::bindings {
 /// controller), publications do nothing, and subscriptions are empty.
 class CORVANE_WORKBENCH_EXPORT PropertyHandle {
 public:
+    /// Keeps the constructor that takes it for those who have its one value.
     struct InternalConstructorTag {
         explicit InternalConstructorTag() = default;
     };

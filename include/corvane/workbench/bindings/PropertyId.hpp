@@ -29,6 +29,7 @@ class PropertyKey;
 /// the owner of the property.
 class CORVANE_WORKBENCH_EXPORT PropertyId {
 public:
+    /// Keeps the constructor that takes it for those who have its one value.
     struct InternalConstructorTag {
         explicit InternalConstructorTag() = default;
     };
@@ -66,8 +67,9 @@ private:
 
 } // namespace corvane::workbench::bindings
 
-/// The first word XOR the second. Addresses make good identifiers but poor bit patterns (their low
-/// bits are equal), so a table must not use the low bits of this value alone.
+/// @cond
+// The first word XOR the second. Addresses make good identifiers but poor bit patterns (their low
+// bits are equal), so a table must not use the low bits of this value alone.
 template <>
 struct std::hash<corvane::workbench::bindings::PropertyId> {
     [[nodiscard]] std::size_t
@@ -75,3 +77,4 @@ struct std::hash<corvane::workbench::bindings::PropertyId> {
         return static_cast<std::size_t>(id.words_[0] ^ id.words_[1]);
     }
 };
+/// @endcond

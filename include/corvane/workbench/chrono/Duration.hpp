@@ -1,5 +1,5 @@
 // A time span in the unit in which the user entered it, so that "250ms" is shown and written back
-// as "250ms". A value type of two fields.
+// as "250ms".
 #pragma once
 
 #include <corvane/workbench/export.hpp>
@@ -28,6 +28,8 @@ class Value;
 
 namespace corvane::workbench::chrono {
 
+/// A time span in the unit in which the user entered it, so that "250ms" is shown and written back
+/// as "250ms". A value type of two fields.
 class CORVANE_WORKBENCH_EXPORT Duration {
 public:
     /// In texts "ns", "µs" (also read as "us"), "ms", "s", "m", "h".

@@ -1,8 +1,7 @@
 #pragma once
 
-// The load context: through it a skill hands over the keys that it reads from a configuration,
-// each with the reference that is to receive the result. The workbench implements it and decides
-// when a key is resolved, usually once the whole file is known.
+// The load context: through it a skill hands over the keys that it reads from a configuration, each
+// with the reference that is to receive the result.
 
 #include <corvane/workbench/config/WithoutLocationTag.hpp>
 #include <corvane/workbench/export.hpp>
@@ -33,6 +32,10 @@ class TaskReference;
 
 namespace corvane::workbench::config {
 
+/// The load context: through it a skill hands over the keys that it reads from a configuration,
+/// each with the reference that is to receive the result. The workbench implements it and decides
+/// when a key is resolved, usually once the whole file is known.
+///
 /// The order of the virtual operations is fixed.
 class CORVANE_WORKBENCH_EXPORT Context {
 public:

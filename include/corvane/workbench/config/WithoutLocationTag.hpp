@@ -4,6 +4,8 @@
 
 namespace corvane::workbench::config {
 
+/// Selects the constructor of a key that comes from no configuration file. See
+/// Context::ReferenceKey.
 struct WithoutLocationTag {
     explicit constexpr WithoutLocationTag() = default;
 };

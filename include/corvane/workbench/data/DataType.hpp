@@ -1,14 +1,15 @@
 #pragma once
 
 // The type of an attribute's value in the data model of the runtime.
-//
-// A small value that the library carries through unchanged; it knows the named constants below,
-// all other pairs are defined by the runtime.
 
 #include <cstdint>
 
 namespace corvane::workbench::data {
 
+/// The type of an attribute's value in the data model of the runtime.
+///
+/// A small value that the library carries through unchanged; it knows the named constants below,
+/// all other pairs are defined by the runtime.
 struct DataType {
     std::uint32_t kind = 0;
     std::uint32_t size = 0;

@@ -1,8 +1,6 @@
 #pragma once
 
 // The order in which names are shown to the user.
-//
-// An empty function object for std::sort and ordered containers; all objects are alike.
 
 #include <corvane/workbench/export.hpp>
 
@@ -11,6 +9,9 @@
 
 namespace corvane::workbench::i18n {
 
+/// The order in which names are shown to the user.
+///
+/// An empty function object for std::sort and ordered containers; all objects are alike.
 class CORVANE_WORKBENCH_EXPORT SortOrdering {
 public:
     SortOrdering() = default;

@@ -1,7 +1,4 @@
-// A JSON array held in memory: values in order. To use the elements include json/Value.hpp.
-//
-// A value type; not synchronised. References, pointers and iterators to elements follow the rules
-// of std::vector.
+// A JSON array held in memory: values in order.
 #pragma once
 
 #include <corvane/utils/json/encoder/Document.hpp>
@@ -28,6 +25,10 @@ namespace corvane::workbench::json {
 
 class Value;
 
+/// A JSON array held in memory: values in order. To use the elements include json/Value.hpp.
+///
+/// A value type; not synchronised. References, pointers and iterators to elements follow the rules
+/// of std::vector.
 class CORVANE_WORKBENCH_EXPORT Array {
 public:
     using value_type = Value;

@@ -3,6 +3,7 @@
 
 namespace corvane::workbench::json {
 
+/// What the JSON document model tolerates while it is read.
 struct DecodingOptions {
     /// Whether a member may come twice: the last value wins and stands where the first one stood.
     /// Concerns the members of the outermost object only; nested objects never tolerate it.

@@ -1,8 +1,5 @@
 // A JSON object held in memory: members, each a name and a value, in the order in which they were
-// read or added. To use the members include json/Value.hpp.
-//
-// A value type; not synchronised. References, pointers and iterators to members follow the rules
-// of std::vector. Decoding refuses a name that comes twice; appending does not look.
+// read or added.
 #pragma once
 
 #include <corvane/utils/core/function_ref.hpp>
@@ -33,6 +30,11 @@ namespace corvane::workbench::json {
 
 class Value;
 
+/// A JSON object held in memory: members, each a name and a value, in the order in which they were
+/// read or added. To use the members include json/Value.hpp.
+///
+/// A value type; not synchronised. References, pointers and iterators to members follow the rules
+/// of std::vector. Decoding refuses a name that comes twice; appending does not look.
 class CORVANE_WORKBENCH_EXPORT Object {
 public:
     using Member = std::pair<std::string, Value>;

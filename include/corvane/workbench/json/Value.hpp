@@ -1,7 +1,4 @@
 // Any JSON value held in memory, for configuration that is kept without knowing its meaning.
-//
-// A value type; not synchronised. Copying, comparing, writing and destroying walk the nested
-// values recursively: what the decoder accepts (512 levels) fits a stack of 1 MiB.
 #pragma once
 
 #include <corvane/utils/json/encoder/Document.hpp>
@@ -30,6 +27,10 @@ class Value;
 
 namespace corvane::workbench::json {
 
+/// Any JSON value held in memory, for configuration that is kept without knowing its meaning.
+///
+/// A value type; not synchronised. Copying, comparing, writing and destroying walk the nested
+/// values recursively: what the decoder accepts (512 levels) fits a stack of 1 MiB.
 class CORVANE_WORKBENCH_EXPORT Value {
 public:
     struct Null {

@@ -1,10 +1,6 @@
 #pragma once
 
 // Describes an attribute of an element: a named value that the element has at run time.
-//
-// A plain value. It begins with its change event, the event that fires when the attribute's value
-// changes, so that it can be handed out as that event without a copy. The predefined attributes
-// are constants of the library and ready before the code of any skill runs.
 
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/data/DataType.hpp>
@@ -18,6 +14,11 @@
 
 namespace corvane::workbench::model {
 
+/// Describes an attribute of an element: a named value that the element has at run time.
+///
+/// A plain value. It begins with its change event, the event that fires when the attribute's value
+/// changes, so that it can be handed out as that event without a copy. The predefined attributes
+/// are constants of the library and ready before the code of any skill runs.
 class CORVANE_WORKBENCH_EXPORT Attribute {
 public:
     /// How the attribute can be accessed. Belongs to the runtime: stored and copied only.
@@ -28,8 +29,10 @@ public:
         WriteOnly = 3,
     };
 
-    // The names of these attributes stand in reference keys and files: "key", not "primaryKey",
-    // and "UUID" in upper case.
+    /// @name Predefined attributes
+    /// Their names stand in reference keys and files: "key", not "primaryKey", and "UUID" in upper
+    /// case.
+    /// @{
     static const Attribute kName;
     static const Attribute kUuid;
     static const Attribute kType;
@@ -42,12 +45,15 @@ public:
     static const Attribute kChangeTime;
     static const Attribute kWriteTime;
 
-    // Names of attributes that data points of devices commonly have.
+    /// @}
+    /// @name Names of attributes that data points of devices commonly have
+    /// @{
     static const std::string kAddress;
     static const std::string kChannel;
     static const std::string kDataType;
     static const std::string kLength;
     static const std::string kOffset;
+    /// @}
 
     /// `name` is UTF-8; it and `ioDirections` are also those of the change event.
     Attribute(std::string&& name, Access access, data::DataType dataType,

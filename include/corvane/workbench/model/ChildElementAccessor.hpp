@@ -1,11 +1,6 @@
 #pragma once
 
 // Random access to the children of an element.
-//
-// A small view of a collection that the workbench owns; it must not outlive that collection. The
-// number of children is read once, when the accessor is made: an accessor made before children
-// came or went keeps reporting the old number, and children beyond the new one must not be asked
-// for.
 
 #include <corvane/workbench/export.hpp>
 
@@ -22,6 +17,12 @@ namespace internal {
 class AbstractChildElementAccessor;
 } // namespace internal
 
+/// Random access to the children of an element.
+///
+/// A small view of a collection that the workbench owns; it must not outlive that collection. The
+/// number of children is read once, when the accessor is made: an accessor made before children
+/// came or went keeps reporting the old number, and children beyond the new one must not be asked
+/// for.
 class CORVANE_WORKBENCH_EXPORT ChildElementAccessor {
 public:
     class Iterator;

@@ -1,13 +1,6 @@
 #pragma once
 
 // One element of the configuration tree, as skills and this library see it.
-//
-// The workbench owns the tree and implements this interface, one object for each element; everyone
-// else only reads through it, on the thread that owns the model. Members (attributes, events and
-// tasks) are looked up by name, in UTF-8, byte for byte and with regard to case.
-//
-// An element of the category CustomElement is one of unknown structure: it passes every category
-// check, counts as a data point, and answers for every member name.
 
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/utils/core/Uuid.hpp>
@@ -48,13 +41,22 @@ class ElementAccess;
 class ElementReferenceData;
 } // namespace internal
 
+/// One element of the configuration tree, as skills and this library see it.
+///
+/// The workbench owns the tree and implements this interface, one object for each element; everyone
+/// else only reads through it, on the thread that owns the model. Members (attributes, events and
+/// tasks) are looked up by name, in UTF-8, byte for byte and with regard to case.
+///
+/// An element of the category CustomElement is one of unknown structure: it passes every category
+/// check, counts as a data point, and answers for every member name.
 class CORVANE_WORKBENCH_EXPORT Element {
 public:
     Element() = default;
     Element(const Element& other) = default;
     Element& operator=(const Element& other) = default;
 
-    // Identity.
+    /// @name Identity
+    /// @{
 
     /// The name, in UTF-8, under which its parent knows it; valid until it is renamed.
     [[nodiscard]] corvane::utils::string::BasicStringView<char> name() const;
@@ -67,7 +69,9 @@ public:
     /// The type of the element as it is shown to the user.
     [[nodiscard]] std::wstring type() const;
 
-    // Category.
+    /// @}
+    /// @name Category
+    /// @{
 
     [[nodiscard]] ElementCategory category() const;
 
@@ -86,7 +90,9 @@ public:
     /// Whether the element was made by a skill and its class is this very object.
     [[nodiscard]] bool isA(const skill::Element::Class& elementClass) const;
 
-    // Place in the tree.
+    /// @}
+    /// @name Place in the tree
+    /// @{
 
     [[nodiscard]] bool isInvisibleRoot() const;
 
@@ -104,7 +110,9 @@ public:
     /// The child of that name, or null.
     [[nodiscard]] const Element* childElement(std::string_view name) const;
 
-    // All members, in the order of the element.
+    /// @}
+    /// @name All members, in the order of the element
+    /// @{
 
     [[nodiscard]] std::vector<Attribute> attributes() const;
 
@@ -115,9 +123,12 @@ public:
 
     [[nodiscard]] std::vector<process::Task> tasks() const;
 
-    // Walks call `visit` for one member after the other, in the same order as above, until it
-    // returns true; a `visit` that returns nothing sees all. They return whether `visit` stopped
-    // the walk. The member is valid during the call only.
+    /// @}
+    /// @name Walks
+    /// They call `visit` for one member after the other, in the same order as above, until it
+    /// returns true; a `visit` that returns nothing sees all. They return whether `visit` stopped
+    /// the walk. The member is valid during the call only.
+    /// @{
 
     template <class Visit>
         requires std::invocable<Visit&, const Attribute&>
@@ -146,8 +157,11 @@ public:
         return stopped;
     }
 
-    // Lookups: the first member of that name, or a translated message that says what is missing.
-    // A custom element makes up what it does not have.
+    /// @}
+    /// @name Lookups
+    /// The first member of that name, or a translated message that says what is missing. A custom
+    /// element makes up what it does not have.
+    /// @{
 
     [[nodiscard]] tl::expected<Attribute, std::wstring> attribute(std::string_view name) const;
 
@@ -158,8 +172,11 @@ public:
 
     [[nodiscard]] tl::expected<process::Task, std::wstring> task(std::string_view name) const;
 
-    // References to this element and to its members. That there is such a member is not checked:
-    // a reference to a missing one fails when it is resolved.
+    /// @}
+    /// @name References to this element and to its members
+    /// That there is such a member is not checked: a reference to a missing one fails when it is
+    /// resolved.
+    /// @{
 
     [[nodiscard]] ElementReference makeReference() const;
     [[nodiscard]] AttributeReference makeAttributeReference(std::string_view name) const;
@@ -173,6 +190,8 @@ public:
 
     [[nodiscard]] process::TaskReference makeTaskReference(std::string_view name) const;
     [[nodiscard]] process::TaskReference makeTaskReference(const process::Task& task) const;
+
+    /// @}
 
 private:
     // Opens the private operations to the workbench and to the library itself.

@@ -1,9 +1,6 @@
 #pragma once
 
 // Describes an event of an element: something that happens there, to which others can react.
-//
-// A plain value. The predefined events are constants of the library and ready before the code of
-// any skill runs.
 
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/export.hpp>
@@ -14,6 +11,10 @@
 
 namespace corvane::workbench::process {
 
+/// Describes an event of an element: something that happens there, to which others can react.
+///
+/// A plain value. The predefined events are constants of the library and ready before the code of
+/// any skill runs.
 class CORVANE_WORKBENCH_EXPORT Event {
 public:
     static const Event kChanged;

@@ -1,8 +1,6 @@
 #pragma once
 
 // A live reference to an event of an element of the model, held by a skill in a property.
-// It registers with the workbench and follows renames and moves; see BasicElementReference. Its
-// ImportReference is the plain form of a reference within a configuration that is being imported.
 
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
@@ -22,6 +20,9 @@ class Value;
 
 namespace corvane::workbench::process {
 
+/// A live reference to an event of an element of the model, held by a skill in a property. It
+/// registers with the workbench and follows renames and moves; see BasicElementReference. Its
+/// ImportReference is the plain form of a reference within a configuration that is being imported.
 class CORVANE_WORKBENCH_EXPORT EventReference : public model::internal::BasicElementReference {
 public:
     class ImportReference;

@@ -4,6 +4,7 @@
 
 namespace corvane::workbench::process {
 
+/// How the events of an element are enumerated and looked up.
 struct EventSearchOptions {
     /// Attributes count as events, through their change events.
     bool includeAttributes = false;

@@ -1,9 +1,6 @@
 #pragma once
 
 // Describes a task of an element: something that it can be made to do.
-//
-// A plain value. The predefined task is a constant of the library and ready before the code of any
-// skill runs.
 
 #include <corvane/workbench/export.hpp>
 
@@ -12,6 +9,10 @@
 
 namespace corvane::workbench::process {
 
+/// Describes a task of an element: something that it can be made to do.
+///
+/// A plain value. The predefined task is a constant of the library and ready before the code of any
+/// skill runs.
 class CORVANE_WORKBENCH_EXPORT Task {
 public:
     static const Task kReconnect;

@@ -1,8 +1,7 @@
 #pragma once
 
 // What a generic user interface needs to show and edit a property of an element or sub-element
-// whose class it does not know. A value; its callables and its handle refer to the element or
-// sub-element that described it and must not be used after that has ended or moved.
+// whose class it does not know.
 
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/bindings/PropertyHandle.hpp>
@@ -19,6 +18,9 @@ namespace corvane::workbench::skill {
 
 class SubElement;
 
+/// What a generic user interface needs to show and edit a property of an element or sub-element
+/// whose class it does not know. A value; its callables and its handle refer to the element or
+/// sub-element that described it and must not be used after that has ended or moved.
 struct EditableProperty {
     /// The kind of control that suits the property.
     enum class Editor {

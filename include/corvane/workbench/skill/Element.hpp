@@ -1,9 +1,6 @@
 #pragma once
 
-// The skill's half of an element of the configuration tree. The workbench keeps a generic
-// model::Element beside it and joins the two with an element supervisor; until the workbench has
-// attached that supervisor, no operation that goes through it may be called. An element belongs
-// to the workbench's tree and is used on the user-interface thread.
+// The skill's half of an element of the configuration tree.
 
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/core/function_ref.hpp>
@@ -48,9 +45,14 @@ class AbstractElementSupervisor;
 class ElementAccess;
 } // namespace internal
 
-/// Base of every element that a skill contributes. A subclass holds the element's settings,
-/// overrides `load`, `save` and `makeDefault` together, and describes its properties in
-/// `configureProperties`. The order of the virtual operations is fixed.
+/// The skill's half of an element of the configuration tree. The workbench keeps a generic
+/// model::Element beside it and joins the two with an element supervisor; until the workbench has
+/// attached that supervisor, no operation that goes through it may be called. An element belongs to
+/// the workbench's tree and is used on the user-interface thread.
+///
+/// A subclass holds the element's settings, overrides `load`, `save` and `makeDefault` together,
+/// and describes its properties in `configureProperties`. The order of the virtual operations is
+/// fixed.
 class CORVANE_WORKBENCH_EXPORT Element : public bindings::PropertyController {
 public:
     class Class;

@@ -1,10 +1,7 @@
 #pragma once
 
-// The base of a skill, the class object that describes it, and the process-wide list in which
-// the workbench finds every skill. A skill library holds one static object derived from
-// Skill::Class; constructing that object is all the registration there is. A class object lives
-// as long as its library stays loaded. Creating the list is thread-safe, inserting is not: skill
-// libraries are loaded one at a time.
+// The base of a skill, the class object that describes it, and the process-wide list in which the
+// workbench finds every skill.
 
 #include <corvane/utils/memory/SafeGlobal.hpp>
 #include <corvane/workbench/export.hpp>
@@ -30,7 +27,10 @@ public:
     virtual ~Skill() = 0;
 };
 
-/// Describes a skill to the workbench. The order of the virtual operations is fixed.
+/// Describes a skill to the workbench. A skill library holds one static object derived from
+/// Skill::Class; constructing that object is all the registration there is. A class object lives as
+/// long as its library stays loaded. Creating the list is thread-safe, inserting is not: skill
+/// libraries are loaded one at a time. The order of the virtual operations is fixed.
 class CORVANE_WORKBENCH_EXPORT Skill::Class {
 public:
     class Registry;

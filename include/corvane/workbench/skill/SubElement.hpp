@@ -1,7 +1,6 @@
 #pragma once
 
-// The base of an item inside an element: the row of a list property, say. It has properties and a
-// display name of its own but is no element of the tree. It belongs to the element that holds it.
+// The base of an item inside an element: the row of a list property, say.
 
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>
@@ -15,6 +14,9 @@ namespace corvane::workbench::skill {
 
 struct EditableProperty;
 
+/// The base of an item inside an element: the row of a list property, say. It has properties and a
+/// display name of its own but is no element of the tree. It belongs to the element that holds it.
+///
 /// The order of the virtual operations is fixed.
 class CORVANE_WORKBENCH_EXPORT SubElement : public bindings::PropertyController {
 public:

@@ -15,6 +15,8 @@
 
 namespace corvane::workbench::host {
 
+/// The element classes that a workbench knows, by their names in configuration files. The classes
+/// are referred to, not owned.
 class ElementClassRegistry final : public skill::Skill::Class::Registry {
 public:
     ElementClassRegistry();

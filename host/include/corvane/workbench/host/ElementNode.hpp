@@ -1,9 +1,7 @@
 #pragma once
 
 // The workbench's half of one element of the tree: its name, identity and place, its children, and
-// the joint to the skill's half. Nodes are made, changed and destroyed by their workbench alone and
-// keep their addresses as long as they live; everybody else reads. The root is a node of its own:
-// invisible, without name, class and skill's half, and alive as long as the workbench.
+// the joint to the skill's half.
 
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/host/ElementProperties.hpp>
@@ -27,6 +25,10 @@ namespace corvane::workbench::host {
 class ElementTree;
 class ReferenceProxy;
 
+/// The workbench's half of one element of the tree: its name, identity and place, its children, and
+/// the joint to the skill's half. Nodes are made, changed and destroyed by their workbench alone
+/// and keep their addresses as long as they live; everybody else reads. The root is a node of its
+/// own: invisible, without name, class and skill's half, and alive as long as the workbench.
 class ElementNode final : public model::Element,
                           private model::internal::AbstractChildElementAccessor,
                           private skill::internal::AbstractElementSupervisor {

@@ -8,6 +8,7 @@
 
 namespace corvane::workbench::host {
 
+/// How a configuration is loaded. The defaults load all or nothing.
 struct LoadOptions {
     /// Leave out what cannot be loaded (an element with everything below it, in the usual case)
     /// and go on with the rest of the file, collecting every problem. Otherwise the first such

@@ -6,6 +6,7 @@
 
 namespace corvane::workbench::host {
 
+/// How far the loading of a configuration has come. See LoadOptions::progress.
 struct LoadProgress {
     enum class Stage {
         /// Reading the file; counted in bytes.

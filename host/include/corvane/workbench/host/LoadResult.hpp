@@ -8,6 +8,7 @@
 
 namespace corvane::workbench::host {
 
+/// What came of loading a configuration. True when the configuration was loaded.
 struct LoadResult {
     /// Whether the configuration is now the one in memory. When not, the one before it is still
     /// there, unchanged. A configuration can be loaded and have problems: references that do not

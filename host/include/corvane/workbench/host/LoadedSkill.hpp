@@ -1,7 +1,6 @@
 #pragma once
 
-// A skill that a workbench uses: its class, its instance, and where it came from. Owned by the
-// workbench, alive as long as it.
+// A skill that a workbench uses: its class, its instance, and where it came from.
 
 #include <corvane/workbench/skill/Element.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
@@ -13,6 +12,8 @@
 
 namespace corvane::workbench::host {
 
+/// A skill that a workbench uses: its class, its instance, and where it came from. Owned by the
+/// workbench, alive as long as it.
 class LoadedSkill {
 public:
     LoadedSkill(const skill::Skill::Class& skillClass, std::unique_ptr<skill::Skill> instance,

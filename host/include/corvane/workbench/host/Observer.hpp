@@ -1,10 +1,7 @@
 #pragma once
 
-// Is told what a workbench did to its tree, beside the notifications that the properties
-// themselves publish. All calls come after the change is complete, except those whose name says
-// otherwise. Within a call the tree may be read but not edited: the workbench refuses. An exception
-// does not stop an edit nor the other notifications; the first one is thrown on to the caller of
-// the edit when all are through.
+// Is told what a workbench did to its tree, beside the notifications that the properties themselves
+// publish.
 
 #include <string_view>
 
@@ -16,6 +13,11 @@ namespace corvane::workbench::host {
 
 class ElementNode;
 
+/// Is told what a workbench did to its tree, beside the notifications that the properties
+/// themselves publish. All calls come after the change is complete, except those whose name says
+/// otherwise. Within a call the tree may be read but not edited: the workbench refuses. An
+/// exception does not stop an edit nor the other notifications; the first one is thrown on to the
+/// caller of the edit when all are through.
 class Observer {
 public:
     virtual ~Observer() = default;

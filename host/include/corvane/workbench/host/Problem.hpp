@@ -1,8 +1,7 @@
 #pragma once
 
 // Something that is wrong with a configuration, a skill library or a request, said in one sentence
-// and located where it can be. Every operation of the reference workbench that can fail for a
-// reason outside the program says so with a Problem.
+// and located where it can be.
 
 #include <tl/expected.hpp>
 
@@ -12,6 +11,9 @@
 
 namespace corvane::workbench::host {
 
+/// Something that is wrong with a configuration, a skill library or a request, said in one sentence
+/// and located where it can be. Every operation of the reference workbench that can fail for a
+/// reason outside the program says so with a Problem.
 struct Problem {
     enum class Severity {
         /// The configuration, or the part of it that is meant, is not right.

@@ -10,6 +10,7 @@ namespace corvane::workbench::host {
 
 class ElementNode;
 
+/// A visible property whose value is not valid. See Workbench::forEachPropertyProblem.
 struct PropertyProblem {
     /// The element that the property belongs to, also when a sub-element of it holds the property.
     const ElementNode* element = nullptr;

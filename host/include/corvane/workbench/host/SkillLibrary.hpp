@@ -1,9 +1,6 @@
 #pragma once
 
-// A shared library that holds skills. Opening it runs its static initialisers, which enter its
-// skill classes into skill::Skill::Class::allSkills(). A library that was opened stays loaded until
-// the process ends, because that list keeps referring to its classes; opening it again finds the
-// same classes. Libraries are opened one at a time.
+// A shared library that holds skills.
 
 #include <corvane/workbench/host/Problem.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
@@ -15,6 +12,10 @@
 
 namespace corvane::workbench::host {
 
+/// A shared library that holds skills. Opening it runs its static initialisers, which enter its
+/// skill classes into skill::Skill::Class::allSkills(). A library that was opened stays loaded
+/// until the process ends, because that list keeps referring to its classes; opening it again finds
+/// the same classes. Libraries are opened one at a time.
 class SkillLibrary {
 public:
     /// Opens a library. Fails, with a sentence that names the path, when the file is missing or

@@ -1,15 +1,7 @@
 #pragma once
 
 // A headless workbench: it loads skills and configurations, owns the tree of elements, edits it and
-// saves it, and keeps every reference between the elements pointing where it should. For tests of
-// skills, for command-line tools, and for trying out a skill without the real workbench.
-//
-// Elements are named by their keys: the names on the way down to them, joined by "."; the empty key
-// is the invisible root. Keys and names are UTF-8. What can fail for a reason outside the program
-// fails with a Problem; exceptions come from skills and observers only. Every edit is checked
-// before anything changes: one that fails changes nothing.
-//
-// A workbench is used on one thread. It must outlive everything that it handed out.
+// saves it, and keeps every reference between the elements pointing where it should.
 
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/core/function_ref.hpp>
@@ -45,6 +37,16 @@ struct EditableProperty;
 
 namespace corvane::workbench::host {
 
+/// A headless workbench: it loads skills and configurations, owns the tree of elements, edits it
+/// and saves it, and keeps every reference between the elements pointing where it should. For tests
+/// of skills, for command-line tools, and for trying out a skill without the real workbench.
+///
+/// Elements are named by their keys: the names on the way down to them, joined by "."; the empty
+/// key is the invisible root. Keys and names are UTF-8. What can fail for a reason outside the
+/// program fails with a Problem; exceptions come from skills and observers only. Every edit is
+/// checked before anything changes: one that fails changes nothing.
+///
+/// A workbench is used on one thread. It must outlive everything that it handed out.
 class Workbench {
 public:
     /// No skills, and the root as the only element.
@@ -53,7 +55,8 @@ public:
     Workbench& operator=(const Workbench&) = delete;
     ~Workbench();
 
-    // Skills.
+    /// @name Skills
+    /// @{
 
     /// Opens a skill library and adds its skills. Fails with a sentence that names the library and
     /// leaves everything as it was.
@@ -65,7 +68,9 @@ public:
     [[nodiscard]] std::span<const std::unique_ptr<LoadedSkill>> skills() const noexcept;
     [[nodiscard]] const ElementClassRegistry& elementClasses() const noexcept;
 
-    // Configurations.
+    /// @}
+    /// @name Configurations
+    /// @{
 
     /// Replaces all elements but the root with those of a configuration file. All or nothing.
     LoadResult loadConfiguration(const std::filesystem::path& file,
@@ -80,7 +85,9 @@ public:
     /// The same to a stream, which is flushed but not closed.
     Result<void> saveConfiguration(corvane::utils::io::OutputStream<char>& stream) const;
 
-    // The tree.
+    /// @}
+    /// @name The tree
+    /// @{
 
     [[nodiscard]] ElementNode& root() noexcept;
     [[nodiscard]] const ElementNode& root() const noexcept;
@@ -95,7 +102,10 @@ public:
         const ElementNode& top,
         corvane::utils::core::function_ref<void(const PropertyProblem&)> callback) const;
 
-    // Edits. While one is being announced, a further one is refused.
+    /// @}
+    /// @name Edits
+    /// While one is being announced, a further one is refused.
+    /// @{
 
     /// Adds an element with its class's initial settings behind the children of its parent. Without
     /// a name it gets its class's default name, made unique among its siblings by a number.
@@ -113,7 +123,9 @@ public:
     /// prefix. Publishes the property.
     Result<void> setReference(const skill::EditableProperty& property, std::string_view key);
 
-    // References.
+    /// @}
+    /// @name References
+    /// @{
 
     /// A reference to the element that the key names or, if there is none, to the deepest one on
     /// the way that exists, with the rest as suffix. Empty for the empty key; an import reference
@@ -130,11 +142,15 @@ public:
     [[nodiscard]] const ElementNode*
     ownerOf(const model::internal::BasicElementReference& reference) const;
 
-    // Observers. They are called in the order in which they were added and must be removed before
-    // they end.
+    /// @}
+    /// @name Observers
+    /// They are called in the order in which they were added and must be removed before they end.
+    /// @{
 
     void addObserver(Observer& observer);
     void removeObserver(Observer& observer) noexcept;
+
+    /// @}
 
 private:
     class State;

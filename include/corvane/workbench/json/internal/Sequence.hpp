@@ -1,9 +1,5 @@
 // A growing sequence that takes one pointer where it stands, so that the nested values of a
-// document stay small. The elements and their number are in one allocation; an empty sequence has
-// none.
-//
-// A value type like std::vector, with its rules for references and exceptions; the element type
-// may be incomplete until something is done with the elements, and moves without throwing.
+// document stay small.
 #pragma once
 
 #include <algorithm>
@@ -18,6 +14,12 @@
 
 namespace corvane::workbench::json::internal {
 
+/// A growing sequence that takes one pointer where it stands, so that the nested values of a
+/// document stay small. The elements and their number are in one allocation; an empty sequence has
+/// none.
+///
+/// A value type like std::vector, with its rules for references and exceptions; the element type
+/// may be incomplete until something is done with the elements, and moves without throwing.
 template <class T>
 class Sequence {
 public:

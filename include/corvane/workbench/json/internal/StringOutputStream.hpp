@@ -1,5 +1,4 @@
-// Collects what is written in a string that it owns. The string itself is the stream's buffer, so
-// nothing is copied on the way.
+// Collects what is written in a string that it owns.
 #pragma once
 
 #include <corvane/utils/io/OutputStream.hpp>
@@ -11,6 +10,8 @@
 
 namespace corvane::workbench::json::internal {
 
+/// Collects what is written in a string that it owns. The string itself is the stream's buffer, so
+/// nothing is copied on the way.
 class CORVANE_WORKBENCH_EXPORT StringOutputStream final : public utils::io::OutputStream<char> {
 public:
     StringOutputStream();

@@ -1,9 +1,6 @@
 #pragma once
 
 // The collection of an element's children, as the workbench keeps it.
-//
-// The workbench implements it for each element and hands out ChildElementAccessors of it, which
-// must not outlive it.
 
 #include <corvane/workbench/export.hpp>
 
@@ -16,6 +13,10 @@ class Element;
 
 namespace internal {
 
+/// The collection of an element's children, as the workbench keeps it.
+///
+/// The workbench implements it for each element and hands out ChildElementAccessors of it, which
+/// must not outlive it.
 class CORVANE_WORKBENCH_EXPORT AbstractChildElementAccessor {
 public:
     // The order of the virtual operations is fixed.

@@ -1,8 +1,7 @@
 #pragma once
 
-// What the workbench keeps for a referenced element: it tells references where they point and
-// knows every reference that is registered with it. The workbench implements one per referenced
-// element; references share its ownership. Used on the model's thread.
+// What the workbench keeps for a referenced element: it tells references where they point and knows
+// every reference that is registered with it.
 
 #include <corvane/workbench/export.hpp>
 
@@ -26,6 +25,10 @@ namespace corvane::workbench::model::internal {
 
 class BasicElementReference;
 
+/// What the workbench keeps for a referenced element: it tells references where they point and
+/// knows every reference that is registered with it. The workbench implements one per referenced
+/// element; references share its ownership. Used on the model's thread.
+///
 /// The order of the virtual operations is fixed.
 class CORVANE_WORKBENCH_EXPORT AbstractCrossReferenceProxy {
 public:

@@ -1,8 +1,7 @@
 #pragma once
 
 // A live reference: it is registered with its proxy from construction or assignment until it ends,
-// and the registration follows it when it moves. Nothing here notifies by itself; the workbench
-// calls the update operations when the referenced element has changed.
+// and the registration follows it when it moves.
 
 #include <corvane/workbench/bindings/CrossReferenceController.hpp>
 #include <corvane/workbench/bindings/PropertyId.hpp>
@@ -15,6 +14,10 @@
 
 namespace corvane::workbench::model::internal {
 
+/// A live reference: it is registered with its proxy from construction or assignment until it ends,
+/// and the registration follows it when it moves. Nothing here notifies by itself; the workbench
+/// calls the update operations when the referenced element has changed.
+///
 /// The common part of the typed references. No constructor or assignment brings along a referring
 /// controller: it belongs to the place of a reference, not to its value. When a proxy's `attach`
 /// throws, a constructor makes no object, and the other operations leave the reference empty.

@@ -1,7 +1,7 @@
 #pragma once
 
-// The door to the private operations of model::Element, for the workbench and for this library;
-// not for skills.
+// The door to the private operations of model::Element, for the workbench and for this library; not
+// for skills.
 
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/model/Element.hpp>
@@ -11,6 +11,8 @@
 
 namespace corvane::workbench::model::internal {
 
+/// The door to the private operations of model::Element, for the workbench and for this library;
+/// not for skills.
 class ElementAccess {
 public:
     ElementAccess() = delete;

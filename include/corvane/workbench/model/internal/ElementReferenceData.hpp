@@ -1,8 +1,7 @@
 #pragma once
 
 // Describes a reference to an element, or to an attribute, event or task of an element: the deepest
-// part of its key that exists, as a proxy, and the rest as text. A value without registration; the
-// key is computed from the proxy whenever it is asked for, so that it follows renames.
+// part of its key that exists, as a proxy, and the rest as text.
 
 #include <corvane/workbench/export.hpp>
 
@@ -35,6 +34,10 @@ namespace corvane::workbench::model::internal {
 
 class AbstractCrossReferenceProxy;
 
+/// Describes a reference to an element, or to an attribute, event or task of an element: the
+/// deepest part of its key that exists, as a proxy, and the rest as text. A value without
+/// registration; the key is computed from the proxy whenever it is asked for, so that it follows
+/// renames.
 class CORVANE_WORKBENCH_EXPORT ElementReferenceData {
 public:
     /// An empty reference.

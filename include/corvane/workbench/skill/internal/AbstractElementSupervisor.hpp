@@ -1,13 +1,15 @@
 #pragma once
 
-// Joins the skill's half of an element to the workbench's half. The workbench implements it, one
-// object per element, and keeps it alive for as long as the skill's half is used.
+// Joins the skill's half of an element to the workbench's half.
 
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
 namespace corvane::workbench::skill::internal {
 
+/// Joins the skill's half of an element to the workbench's half. The workbench implements it, one
+/// object per element, and keeps it alive for as long as the skill's half is used.
+///
 /// The order of the virtual operations is fixed.
 class CORVANE_WORKBENCH_EXPORT AbstractElementSupervisor {
 public:

@@ -1,11 +1,13 @@
 #pragma once
 
-// The workbench's one door to the private operations of skill elements. Skills do not use it.
+// The workbench's one door to the private operations of skill elements.
 
 #include <corvane/workbench/skill/Element.hpp>
 
 namespace corvane::workbench::skill::internal {
 
+/// The workbench's one door to the private operations of skill elements. Skills do not use it.
+///
 /// Each function forwards to the operation of the same name; see Element for the contracts.
 class ElementAccess {
 public:

@@ -48,6 +48,7 @@ private:
 
 } // namespace corvane::utils::core
 
+/// @cond
 template <>
 struct std::hash<corvane::utils::core::Uuid> {
     [[nodiscard]] std::size_t operator()(const corvane::utils::core::Uuid& uuid) const noexcept {
@@ -59,3 +60,4 @@ struct std::hash<corvane::utils::core::Uuid> {
         return static_cast<std::size_t>(value ^ (value >> 32U));
     }
 };
+/// @endcond
