@@ -24,7 +24,7 @@ needs_of() {
                 wine:wine"
             ;;
         clang) echo "$base $tests clang:clang++" ;;
-        fuzz) echo "$base clang:clang++ libclang-rt-dev:@libclang_rt.fuzzer libicu-dev:unicode/ucol.h" ;;
+        fuzz) echo "$base $tests clang:clang++ libclang-rt-dev:@libclang_rt.fuzzer" ;;
         bench)
             echo "$base libbenchmark-dev:benchmark/benchmark.h nlohmann-json3-dev:nlohmann/json.hpp
                 rapidjson-dev:rapidjson/document.h libboost-json-dev:@libboost_json.so
