@@ -46,8 +46,9 @@ class SkillbenchTest : public testing::Test {
 protected:
     SkillbenchTest() : _before(std::filesystem::current_path()) {
         const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        _folder = std::filesystem::temp_directory_path() /
-                  (std::string("corvane-skillbench-") + test->test_suite_name() + "-" + test->name());
+        _folder =
+            std::filesystem::temp_directory_path() /
+            (std::string("corvane-skillbench-") + test->test_suite_name() + "-" + test->name());
         std::filesystem::remove_all(_folder);
         std::filesystem::create_directories(_folder);
         std::filesystem::current_path(_folder);

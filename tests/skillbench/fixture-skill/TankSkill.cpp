@@ -80,9 +80,9 @@ EditableProperty number(std::string name, std::wstring displayName,
 EditableProperty reference(std::string name, std::wstring displayName,
                            bindings::PropertyController& controller,
                            const model::internal::BasicElementReference& value) {
-    auto result =
-        describe(std::move(name), std::move(displayName),
-                 controller.propertyHandle(value.propertyId()), EditableProperty::Editor::Reference);
+    auto result = describe(std::move(name), std::move(displayName),
+                           controller.propertyHandle(value.propertyId()),
+                           EditableProperty::Editor::Reference);
     result.text = [&value] { return toWide(value.data().primaryKey()); };
     return result;
 }
@@ -137,9 +137,8 @@ private:
             callback(*row);
         }
     }
-    void
-    forEachLocalCrossReference(const function_ref<void(bindings::CrossReferenceController&)>&,
-                               bool) override {}
+    void forEachLocalCrossReference(const function_ref<void(bindings::CrossReferenceController&)>&,
+                                    bool) override {}
     [[nodiscard]] std::uint64_t localPropertyErrorCount() const override { return 0; }
     void propertyNotificationRaised(const bindings::PropertyId&) override {}
 };

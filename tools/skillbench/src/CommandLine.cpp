@@ -209,7 +209,7 @@ bool CommandLine::parse(std::span<const std::string> arguments, std::ostream& ou
     } catch (const CLI::ArgumentMismatch& mismatch) {
         const std::string text = mismatch.what();
         if (const std::size_t end = text.find(" was given"); end != std::string::npos) {
-            throw UsageFailure("the option " + text.substr(0, end) + " takes no value");
+            throw UsageFailure("the option --" + text.substr(0, end) + " takes no value");
         }
         throw UsageFailure("the option " + text.substr(0, text.find(':')) + " needs a value");
     } catch (const CLI::ParseError& error) {
