@@ -33,6 +33,9 @@ ElementNode::~ElementNode() {
     if (const auto proxy = existingProxy(); proxy && proxy->node() == this) {
         proxy->retire({});
     }
+    // Children first: their skill's halves may still look at their parent's.
+    _childrenByName.clear();
+    _children.clear();
 }
 
 const skill::Element::Class& ElementNode::elementClass() const {

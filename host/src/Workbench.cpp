@@ -172,14 +172,14 @@ public:
         }
         template <class Call>
         void tellObservers(Call&& call) {
-            const std::vector<Observer*> observers = _state.observers;
-            for (Observer* observer : observers) {
+            const std::vector<Observer*> told = _state.observers;
+            for (Observer* observer : told) {
                 guarded([&] { call(*observer); });
             }
         }
         void announceReferences() {
-            const std::vector<Observer*> observers = _state.observers;
-            references.announce(observers, _firstFailure);
+            const std::vector<Observer*> told = _state.observers;
+            references.announce(told, _firstFailure);
         }
         /// Ends the edit; throws what was thrown first.
         void finish() {

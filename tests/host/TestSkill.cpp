@@ -156,6 +156,7 @@ void TestRowList::forEachSubPropertyContainer(
 
 const bindings::PropertyKey TestPoint::kLimit;
 const bindings::PropertyKey TestPoint::kRows;
+std::string TestPoint::defaultFailure;
 
 void TestPoint::forEachEditableProperty(
     corvane::utils::core::function_ref<void(const skill::EditableProperty&)> callback) {
@@ -289,6 +290,9 @@ void TestPoint::save(encoder::Object& object) const {
 
 void TestPoint::makeDefault() {
     limit = 50;
+    if (!defaultFailure.empty()) {
+        throw std::runtime_error(std::exchange(defaultFailure, {}));
+    }
 }
 
 bool TestPoint::forEachAttribute(

@@ -97,6 +97,8 @@ public:
     process::EventReference event;
     process::TaskReference task;
     TestRowList list;
+    /// Thrown by the next makeDefault() of any point when not empty.
+    static std::string defaultFailure;
     /// Thrown by the description of the properties when not empty.
     std::string configurationFailure;
 

@@ -66,6 +66,16 @@ TEST_F(WorkbenchEdit, RefusesToAddWhatMayNotBeThere) {
                   "an empty set of “[]” is not a valid element name");
 }
 
+TEST_F(WorkbenchEdit, LeavesNothingBehindWhenASkillThrows) {
+    const std::string before = saved();
+    corvane::tests::TestPoint::defaultFailure = "no default";
+    EXPECT_THROW(static_cast<void>(workbench.add("a", "point", "new")), std::runtime_error);
+    EXPECT_EQ(saved(), before);
+    EXPECT_EQ(workbench.elementCount(), 5U);
+    EXPECT_THAT(observer.calls, testing::IsEmpty());
+    EXPECT_TRUE(workbench.add("a", "point", "new"));
+}
+
 TEST_F(WorkbenchEdit, Renames) {
     EXPECT_TRUE(workbench.rename("a", "[new.name]"));
     EXPECT_THAT(keys(), ElementsAre("[new.name]", "[new.name].b", "[new.name].b.c", "d", "e"));
