@@ -1,0 +1,184 @@
+// The files of the folder "broken" have one fault each and are named after it. Beside each stands
+// what `skillbench check` prints for it there.
+#include "PumpStationTest.hpp"
+
+#include <corvane/utils/core/Uuid.hpp>
+#include <corvane/workbench/host/ElementNode.hpp>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+using pump_station::tests::checkLines;
+using pump_station::tests::configuration;
+using pump_station::tests::PumpStationTest;
+using pump_station::tests::readFile;
+using testing::ElementsAre;
+namespace host = corvane::workbench::host;
+
+/// The names of the faults, sorted.
+std::vector<std::string> faults(std::string_view extension) {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(configuration("broken"))) {
+        if (entry.path().extension() == extension) {
+            names.push_back(entry.path().stem().string());
+        }
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + "\n";
+    }
+    return text;
+}
+
+/// A file that ends with the test.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(std::string_view text)
+        : path_(std::filesystem::temp_directory_path() /
+                ("pump-station-" + corvane::utils::core::Uuid::generate().toString() + ".json")) {
+        std::ofstream(path_, std::ios::binary) << text;
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+class BrokenConfiguration : public PumpStationTest,
+                            public testing::WithParamInterface<std::string> {
+protected:
+    static std::filesystem::path file() { return configuration("broken") / (GetParam() + ".json"); }
+};
+
+TEST_P(BrokenConfiguration, IsReportedAsExpected) {
+    const host::LoadResult result = load(file());
+    EXPECT_EQ(joined(checkLines(workbench, result, file())),
+              readFile(configuration("broken") / (GetParam() + ".expected")));
+}
+
+TEST_P(BrokenConfiguration, LeavesTreeAndFileAloneWhenItIsNotLoaded) {
+    const std::string plant = readFile(configuration("plant.json"));
+    const std::string text = readFile(file());
+    ASSERT_TRUE(load(configuration("plant.json")));
+    const host::ElementNode* station = workbench.findElement("Station");
+    recordErrorCount("");
+
+    const TemporaryFile copy(text);
+    const host::LoadResult result = load(copy.path());
+    EXPECT_EQ(readFile(copy.path()), text);
+    if (result) {
+        EXPECT_EQ(workbench.findElement("Station"), nullptr);
+    } else {
+        EXPECT_EQ(workbench.findElement("Station"), station);
+        EXPECT_EQ(saved(), plant);
+        EXPECT_THAT(calls, testing::IsEmpty());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, BrokenConfiguration, testing::ValuesIn(faults(".json")),
+                         [](const testing::TestParamInfo<std::string>& fault) {
+                             std::string name = fault.param;
+                             std::ranges::replace(name, '-', '_');
+                             return name;
+                         });
+
+class BrokenConfigurations : public PumpStationTest {
+protected:
+    /// A configuration whose settings nest arrays; `levels` counts all levels of the text.
+    static std::string nested(std::size_t levels) {
+        // The root, its children, the child, the element, its settings.
+        const std::size_t arrays = levels - 5;
+        return "{\"children\": [{\"PumpStation.Controller\": {\"name\": \"PLC\", \"settings\": "
+               "{\"deep\":\n" +
+               std::string(arrays, '[') + std::string(arrays, ']') + "}}}]}";
+    }
+};
+
+TEST_F(BrokenConfigurations, AreEachExpectedToBeReported) {
+    EXPECT_EQ(faults(".json"), faults(".expected"));
+    EXPECT_GE(faults(".json").size(), 100U);
+}
+
+TEST_F(BrokenConfigurations, MayBeNested512LevelsDeep) {
+    const host::LoadResult result = loadText(nested(512));
+    EXPECT_TRUE(result.loaded);
+    EXPECT_EQ(text("PLC", "settings"),
+              "{\"deep\":" + std::string(507, '[') + std::string(507, ']') + "}");
+    const std::string written = saved();
+    EXPECT_TRUE(loadText(written));
+    EXPECT_EQ(saved(), written);
+}
+
+TEST_F(BrokenConfigurations, AreRefusedAt513Levels) {
+    ASSERT_TRUE(load(configuration("plant.json")));
+    const host::LoadResult result = loadText(nested(513));
+    EXPECT_FALSE(result.loaded);
+    EXPECT_THAT(checkLines(workbench, result, "test.json"),
+                ElementsAre("test.json:2:508: error: JSON syntax error: objects and arrays are "
+                            "nested deeper than 512 levels"));
+    EXPECT_EQ(saved(), readFile(configuration("plant.json")));
+}
+
+TEST_F(BrokenConfigurations, AreReportedAtTheEndOf100Megabytes) {
+    ASSERT_TRUE(load(configuration("plant.json")));
+    // Many lines, so that the place at the end has to be counted.
+    std::string text = "{\"children\": [{\"PumpStation.Area\": {\"name\": \"Area\",\n";
+    constexpr std::size_t kSize = 100'000'000;
+    const std::string blanks = std::string(999'999, ' ') + "\n";
+    text.reserve(kSize + 2 * blanks.size());
+    while (text.size() < kSize) {
+        text += blanks;
+    }
+    text += "  \"colour\": \"blue\"}}]}\n";
+    const TemporaryFile file(text);
+    const host::LoadResult result = load(file.path());
+    EXPECT_FALSE(result.loaded);
+    ASSERT_EQ(result.problems.size(), 1U);
+    EXPECT_EQ(result.problems[0].line, 102U);
+    EXPECT_EQ(result.problems[0].column, 3U);
+    EXPECT_EQ(result.problems[0].text, "unknown parameter \"colour\"");
+    EXPECT_EQ(saved(), readFile(configuration("plant.json")));
+    EXPECT_EQ(std::filesystem::file_size(file.path()), text.size());
+}
+
+TEST_F(BrokenConfigurations, LoseOnlyWhatIsBrokenOnRequest) {
+    const host::LoadResult result =
+        load(configuration("broken") / "duplicate-sibling-names.json", {.keepGoing = true});
+    EXPECT_TRUE(result.loaded);
+    EXPECT_EQ(result.problems.size(), 1U);
+    EXPECT_NE(workbench.findElement("PLC.Pump"), nullptr);
+    EXPECT_EQ(workbench.findElement("PLC")->childCount(), 1U);
+}
+
+TEST_F(BrokenConfigurations, WithBrokenRowsLoseTheElementOnRequest) {
+    const host::LoadResult result =
+        load(configuration("broken") / "unknown-input-parameter.json", {.keepGoing = true});
+    EXPECT_TRUE(result.loaded);
+    EXPECT_EQ(result.problems.size(), 1U);
+    EXPECT_NE(workbench.findElement("PLC.Pump"), nullptr);
+    EXPECT_EQ(workbench.findElement("Balancer"), nullptr);
+    EXPECT_TRUE(workbench.referencesTo(*workbench.findElement("PLC.Pump")).empty());
+}
+
+TEST_F(BrokenConfigurations, CanBeMissing) {
+    const host::LoadResult result = load(configuration("no-such-file.json"));
+    EXPECT_FALSE(result.loaded);
+    ASSERT_EQ(result.problems.size(), 1U);
+    EXPECT_THAT(result.problems[0].text, testing::HasSubstr("no-such-file.json"));
+}
+
+} // namespace
