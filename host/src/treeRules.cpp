@@ -4,7 +4,15 @@
 
 #include <corvane/workbench/host/ElementNode.hpp>
 
+#include <utility>
+
 namespace corvane::workbench::host {
+
+tl::unexpected<Problem> refuse(std::string text) {
+    Problem problem;
+    problem.text = std::move(text);
+    return tl::unexpected(std::move(problem));
+}
 
 bool allowsChild(const ElementNode& parent, const skill::Element::Class& childClass) {
     return parent.isInvisibleRoot() || parent.elementClass().allowChildElement(childClass);

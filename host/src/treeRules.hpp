@@ -3,6 +3,7 @@
 // The rules of a tree that a file and an edit have in common, with the sentences for those who
 // break them.
 
+#include <corvane/workbench/host/Problem.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
 #include <string>
@@ -11,6 +12,9 @@
 namespace corvane::workbench::host {
 
 class ElementNode;
+
+/// A problem that is in no file.
+[[nodiscard]] tl::unexpected<Problem> refuse(std::string text);
 
 /// Whether the class's elements may stand below the parent. The root takes every class.
 [[nodiscard]] bool allowsChild(const ElementNode& parent, const skill::Element::Class& childClass);
