@@ -34,7 +34,10 @@ DoubleText formatDouble(double number) {
     const auto isDigitOrSign = [](char character) {
         return (character >= '0' && character <= '9') || character == '-';
     };
-    if (number != std::trunc(number) || !std::ranges::all_of(text, isDigitOrSign)) {
+    // Beyond 2^53 every double is whole.
+    const bool isWhole = !(std::abs(number) < 9007199254740992.0) ||
+                         number == static_cast<double>(static_cast<std::int64_t>(number));
+    if (!isWhole || !std::ranges::all_of(text, isDigitOrSign)) {
         return text;
     }
     constexpr std::string_view fraction = ".0";

@@ -4,11 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
+#include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <random>
+#include <string>
+#include <string_view>
 #include <type_traits>
 
 namespace {
@@ -79,6 +84,56 @@ TEST(Format, WritesDoublesThatReadBackAsTheSameNumber) {
             << text.view();
     }
     EXPECT_GT(finite, 19000);
+}
+
+TEST(Format, WritesTheSameAsTheStandardLibrary) {
+    std::mt19937_64 random(20240507);
+    const auto expectStandardText = [](double number) {
+        std::array<char, 32> text{};
+        const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+        ASSERT_EQ(format(number).view(),
+                  std::string_view(text.data(), static_cast<std::size_t>(end - text.data())));
+    };
+    for (int round = 0; round != 20000; ++round) {
+        // From 2^-24 to 2^64, with fractions that end early and late.
+        const std::uint64_t exponent = 1023 - 24 + random() % 88;
+        const std::uint64_t zeros = random() % 53;
+        const std::uint64_t fraction = (random() >> 12U) >> zeros << zeros;
+        const auto number = std::bit_cast<double>((exponent << 52U) | fraction);
+        expectStandardText(number);
+        expectStandardText(-number);
+        // Decimal numbers, and the neighbours of them.
+        const double decimal = static_cast<double>(random() % 1'000'000'000) /
+                               std::pow(10.0, static_cast<double>(random() % 13));
+        expectStandardText(decimal);
+        expectStandardText(std::nextafter(decimal, 0.0));
+        expectStandardText(std::nextafter(decimal, 1e300));
+    }
+    for (int exponent = -40; exponent != 70; ++exponent) {
+        const double power = std::ldexp(1.0, exponent);
+        expectStandardText(power);
+        expectStandardText(std::nextafter(power, 0.0));
+        expectStandardText(std::nextafter(power, 1e300));
+    }
+    for (const double number : {0.001, 0.00099999999999999991, 0.00125, 999999999999999.88, 1e15,
+                                1.0 / 3.0, 2.0 / 3.0, 9.5, 0.5, 4.9999999999999991}) {
+        expectStandardText(number);
+    }
+}
+
+TEST(Format, WritesIntegersOfEveryLength) {
+    std::uint64_t number = 0;
+    std::string text;
+    for (char digit = '1'; digit <= '9'; ++digit) {
+        number = number * 10 + static_cast<std::uint64_t>(digit - '0');
+        text += digit;
+        EXPECT_EQ(format(number), text);
+        EXPECT_EQ(format(-static_cast<std::int64_t>(number)), "-" + text);
+    }
+    for (std::uint64_t power = 1, zeros = 0; zeros != 20; power *= 10, ++zeros) {
+        EXPECT_EQ(format(power), "1" + std::string(zeros, '0'));
+        EXPECT_EQ(format(power - 1), zeros == 0 ? "0" : std::string(zeros, '9'));
+    }
 }
 
 } // namespace

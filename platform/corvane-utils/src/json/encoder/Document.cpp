@@ -1,5 +1,6 @@
 #include <corvane/utils/json/encoder/Document.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -38,6 +39,25 @@ template <class Word>
     Word word{};
     std::memcpy(&word, from, sizeof word);
     return word;
+}
+
+/// Copies a text that is usually a number, without the call that copying any length takes.
+void copyShort(std::string_view text, char* to) noexcept {
+    using Word = std::uint64_t;
+    const std::size_t size = text.size();
+    if (size < sizeof(Word) || size > 3 * sizeof(Word)) {
+        std::copy(text.begin(), text.end(), to);
+        return;
+    }
+    // The last word may overlap those before.
+    const std::size_t last = size - sizeof(Word);
+    const auto copyWord = [&](std::size_t index) {
+        const Word word = load<Word>(text.data() + index);
+        std::memcpy(to + index, &word, sizeof word);
+    };
+    copyWord(0);
+    copyWord(std::min(last, sizeof(Word)));
+    copyWord(last);
 }
 
 /// Copies a text of clean bytes; returns false, with some of it copied, when there are others.
@@ -150,20 +170,48 @@ void Document::close() {
 }
 
 Value Document::addMember(std::size_t depth, std::uint64_t ticket, std::string_view name) {
-    beginElement(depth, ticket);
-    writeQuoted(name);
-    stream_.put(':');
-    if (format_ == Format::Indented) {
-        stream_.put(' ');
+    Level& level = enter(depth, ticket);
+    if (format_ == Format::Compact) {
+        // Most names are written whole and as they are, with all that is around them.
+        if (char* const room = stream_.prepare(name.size() + 4)) {
+            char* to = room;
+            if (!level.isEmpty) {
+                *to++ = ',';
+            }
+            *to++ = '"';
+            if (copyIfClean(name, to)) {
+                to += name.size();
+                *to++ = '"';
+                *to++ = ':';
+                stream_.commit(static_cast<std::size_t>(to - room));
+                level.isEmpty = false;
+                return expectValue();
+            }
+        }
     }
+    separate(level);
+    writeQuoted(name);
+    stream_.write(format_ == Format::Indented ? std::string_view(": ") : std::string_view(":"));
+    return expectValue();
+}
+
+Value Document::addElement(std::size_t depth, std::uint64_t ticket) {
+    separate(enter(depth, ticket));
+    return expectValue();
+}
+
+Value Document::expectValue() noexcept {
     pending_ = ++lastTicket_;
     return Value(*this, pending_);
 }
 
-Value Document::addElement(std::size_t depth, std::uint64_t ticket) {
-    beginElement(depth, ticket);
-    pending_ = ++lastTicket_;
-    return Value(*this, pending_);
+void Document::writePlain(std::string_view text) {
+    if (char* const room = stream_.prepare(text.size())) {
+        copyShort(text, room);
+        stream_.commit(text.size());
+    } else {
+        stream_.write(text);
+    }
 }
 
 void Document::takeValue(std::uint64_t ticket) {
@@ -178,14 +226,17 @@ void Document::open(std::uint64_t ticket, bool isObject) {
     levels_.push_back({ticket, isObject, true});
 }
 
-void Document::beginElement(std::size_t depth, std::uint64_t ticket) {
+Document::Level& Document::enter(std::size_t depth, std::uint64_t ticket) {
     if (levels_.size() < depth || levels_[depth - 1].ticket != ticket) {
         throw std::logic_error("the JSON object or array is complete already");
     }
     if (levels_.size() > depth || pending_ != kNoTicket) {
         closeDownTo(depth);
     }
-    Level& level = levels_[depth - 1];
+    return levels_[depth - 1];
+}
+
+void Document::separate(Level& level) {
     if (!level.isEmpty) {
         stream_.put(',');
     }

@@ -25,7 +25,7 @@ void Value::writeString(std::string_view text) {
 
 void Value::writeNumber(std::string_view number) {
     document_->takeValue(ticket_);
-    document_->stream_.write(number);
+    document_->writePlain(number);
 }
 
 void Value::writeBool(bool value) {

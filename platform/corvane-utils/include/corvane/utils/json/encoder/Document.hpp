@@ -52,9 +52,13 @@ private:
     [[nodiscard]] Value addElement(std::size_t depth, std::uint64_t ticket);
     void takeValue(std::uint64_t ticket);
     void open(std::uint64_t ticket, bool isObject);
-    void beginElement(std::size_t depth, std::uint64_t ticket);
+    /// The container that something is to be added to, with all inside it closed.
+    [[nodiscard]] Level& enter(std::size_t depth, std::uint64_t ticket);
+    void separate(Level& level);
+    [[nodiscard]] Value expectValue() noexcept;
     void closeDownTo(std::size_t depth);
     void writeLineBreak();
+    void writePlain(std::string_view text);
     void writeQuoted(std::string_view text);
 
     io::OutputStream<char>& stream_;
