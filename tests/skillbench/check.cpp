@@ -85,6 +85,19 @@ TEST_F(SkillbenchCheck, LocatesWhatIsWrongWithTheText) {
                 StartsWith("plant.json:2:"));
 }
 
+TEST_F(SkillbenchCheck, ResolvesImportReferencesOnRequest) {
+    write("plant.json", "{\"children\": [\n"
+                        "{\"tank\": {\"name\": \"T\"}},\n"
+                        "{\"gauge\": {\"name\": \"G\", \"tank\": \".import:T\"}}]}");
+    EXPECT_EQ(runOn("check", {"plant.json"}),
+              (Outcome{1,
+                       "plant.json:3:2: error: G.tank: internal error: unresolved cross reference "
+                       "from import\n",
+                       ""}));
+    EXPECT_EQ(runOn("check", {"plant.json", "--resolve-imports"}),
+              (Outcome{0, "plant.json: 2 elements, no problems\n", ""}));
+}
+
 TEST_F(SkillbenchCheck, ReadsFilesWithWindowsLineEnds) {
     EXPECT_EQ(
         checkText("{\"children\": [\r\n{\"tank\": {\"name\": \"T\", \"level\": 101}}\r\n]}").out,

@@ -39,6 +39,8 @@ void ConfigurationArguments::addTo(CommandLine& commandLine) {
     commandLine.addValues("--skill", "LIBRARY...", skills,
                           "the libraries of the skills that the configuration needs");
     commandLine.addFlag("--keep-going", keepGoing, "leave out what cannot be loaded");
+    commandLine.addFlag("--resolve-imports", resolveImports,
+                        "let import references point at elements of the configuration");
     commandLine.addParameter("CONFIGURATION", configuration, "the configuration file");
 }
 
@@ -54,28 +56,30 @@ OpenConfiguration::OpenConfiguration(const ConfigurationArguments& arguments,
         }
     }
     requireReadable(_file);
+    host::LoadOptions options;
+    options.resolveImportReferences = arguments.resolveImports;
     // The first load says whether the second one left something out.
-    _result = load(false, streams);
+    _result = load(options, streams);
     _complete = _result.loaded;
     if (!_result.loaded && arguments.keepGoing) {
-        _result = load(true, streams);
+        options.keepGoing = true;
+        _result = load(options, streams);
     }
 }
 
 OpenConfiguration::~OpenConfiguration() = default;
 
-host::LoadResult OpenConfiguration::load(bool keepGoing, const Streams& streams) {
-    host::LoadOptions options;
-    options.keepGoing = keepGoing;
+host::LoadResult OpenConfiguration::load(const host::LoadOptions& options, const Streams& streams) {
     if (!streams.showsProgress) {
         return _workbench.loadConfiguration(_file, options);
     }
     ProgressBar bar(streams.err);
-    options.progress = [&](const host::LoadProgress& progress) {
+    host::LoadOptions watched = options;
+    watched.progress = [&](const host::LoadProgress& progress) {
         bar.show(progress);
         return true;
     };
-    return _workbench.loadConfiguration(_file, options);
+    return _workbench.loadConfiguration(_file, watched);
 }
 
 void OpenConfiguration::printLoadProblems(std::ostream& to) const {

@@ -20,8 +20,9 @@ struct ConfigurationArguments {
     std::vector<std::string> skills;
     std::string configuration;
     bool keepGoing = false;
+    bool resolveImports = false;
 
-    /// Describes --skill, CONFIGURATION and --keep-going.
+    /// Describes --skill, CONFIGURATION, --keep-going and --resolve-imports.
     void addTo(CommandLine& commandLine);
 };
 
@@ -54,7 +55,8 @@ public:
     void requireWritable(const std::filesystem::path& target) const;
 
 private:
-    [[nodiscard]] workbench::host::LoadResult load(bool keepGoing, const Streams& streams);
+    [[nodiscard]] workbench::host::LoadResult load(const workbench::host::LoadOptions& options,
+                                                   const Streams& streams);
 
     workbench::host::Workbench _workbench;
     std::filesystem::path _file;
