@@ -38,21 +38,27 @@ std::string joined(const std::vector<std::string>& lines) {
     return text;
 }
 
-/// A file that ends with the test.
-class TemporaryFile {
+/// A folder that ends with the test.
+class TemporaryFolder {
 public:
-    explicit TemporaryFile(std::string_view text)
+    TemporaryFolder()
         : path_(std::filesystem::temp_directory_path() /
-                ("pump-station-" + corvane::utils::core::Uuid::generate().toString() + ".json")) {
-        std::ofstream(path_, std::ios::binary) << text;
+                ("pump-station-" + corvane::utils::core::Uuid::generate().toString())) {
+        std::filesystem::create_directories(path_);
     }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() {
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
         std::error_code ignored;
-        std::filesystem::remove(path_, ignored);
+        std::filesystem::remove_all(path_, ignored);
     }
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+    /// Writes a file and returns its path.
+    [[nodiscard]] std::filesystem::path write(const std::string& name,
+                                              std::string_view text) const {
+        const std::filesystem::path file = path_ / name;
+        std::ofstream(file, std::ios::binary) << text;
+        return file;
+    }
 
 private:
     std::filesystem::path path_;
@@ -64,22 +70,20 @@ protected:
     static std::filesystem::path file() { return configuration("broken") / (GetParam() + ".json"); }
 };
 
-TEST_P(BrokenConfiguration, IsReportedAsExpected) {
-    const host::LoadResult result = load(file());
-    EXPECT_EQ(joined(checkLines(workbench, result, file())),
-              readFile(configuration("broken") / (GetParam() + ".expected")));
-}
-
-TEST_P(BrokenConfiguration, LeavesTreeAndFileAloneWhenItIsNotLoaded) {
+TEST_P(BrokenConfiguration, IsReportedAsExpectedAndChangesNothingUnlessItIsLoaded) {
     const std::string plant = readFile(configuration("plant.json"));
-    const std::string text = readFile(file());
     ASSERT_TRUE(load(configuration("plant.json")));
     const host::ElementNode* station = workbench.findElement("Station");
     recordErrorCount("");
+    const std::string text = readFile(file());
+    const TemporaryFolder folder;
+    const std::filesystem::path copy = folder.write(GetParam() + ".json", text);
 
-    const TemporaryFile copy(text);
-    const host::LoadResult result = load(copy.path());
-    EXPECT_EQ(readFile(copy.path()), text);
+    const host::LoadResult result = load(copy);
+
+    EXPECT_EQ(joined(checkLines(workbench, result, copy)),
+              readFile(configuration("broken") / (GetParam() + ".expected")));
+    EXPECT_EQ(readFile(copy), text);
     if (result) {
         EXPECT_EQ(workbench.findElement("Station"), nullptr);
     } else {
@@ -144,15 +148,16 @@ TEST_F(BrokenConfigurations, AreReportedAtTheEndOf100Megabytes) {
         text += blanks;
     }
     text += "  \"colour\": \"blue\"}}]}\n";
-    const TemporaryFile file(text);
-    const host::LoadResult result = load(file.path());
+    const TemporaryFolder folder;
+    const std::filesystem::path file = folder.write("large.json", text);
+    const host::LoadResult result = load(file);
     EXPECT_FALSE(result.loaded);
     ASSERT_EQ(result.problems.size(), 1U);
     EXPECT_EQ(result.problems[0].line, 102U);
     EXPECT_EQ(result.problems[0].column, 3U);
     EXPECT_EQ(result.problems[0].text, "unknown parameter \"colour\"");
     EXPECT_EQ(saved(), readFile(configuration("plant.json")));
-    EXPECT_EQ(std::filesystem::file_size(file.path()), text.size());
+    EXPECT_EQ(std::filesystem::file_size(file), text.size());
 }
 
 TEST_F(BrokenConfigurations, LoseOnlyWhatIsBrokenOnRequest) {
