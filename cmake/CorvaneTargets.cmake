@@ -29,6 +29,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT WIN32)
     add_compile_options(-fno-semantic-interposition)
 endif()
 
+# What is installed finds what is installed with it, wherever that is.
+if(NOT WIN32 AND NOT DEFINED CMAKE_INSTALL_RPATH)
+    set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+endif()
+
 if(CORVANE_SANITIZE)
     add_compile_options("-fsanitize=${CORVANE_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options("-fsanitize=${CORVANE_SANITIZE}")
