@@ -27,6 +27,12 @@ TEST(SkillbenchText, CountsInWords) {
     EXPECT_EQ(countText(2, "element"), "2 elements");
 }
 
+TEST(SkillbenchText, AlignsByCharacters) {
+    EXPECT_EQ(padded("ab", 4), "ab  ");
+    EXPECT_EQ(padded("Öl", 4), "Öl  ");
+    EXPECT_EQ(padded("abcde", 4), "abcde");
+}
+
 TEST(SkillbenchText, NamesTheRoot) {
     EXPECT_EQ(keyText(""), "(root)");
     EXPECT_EQ(keyText("Werk.Öl"), "Werk.Öl");

@@ -46,6 +46,13 @@ TEST(SkillbenchType, MovingAloneChangesNothing) {
                        ""}));
 }
 
+TEST(SkillbenchType, TakesKeysThatAreNotAscii) {
+    EXPECT_EQ(
+        runWith({"type", "timestamp", "--text", "2024-05-06 07:08:09Z", "--cursor", "4", "ü"}).out,
+        "(start)       2024|-05-06 07:08:09Z   cursor 4\n"
+        "ü             2024|-05-06 07:08:09Z   cursor 4\n");
+}
+
 TEST(SkillbenchType, RefusesWhatItCannotType) {
     EXPECT_EQ(runWith({"type", "colour", "1"}),
               (Outcome{2, "",

@@ -15,7 +15,10 @@ int main(int argc, char** argv) {
         const std::vector<std::string> arguments = skillbench::commandLineArguments(argc, argv);
         const int exitCode = skillbench::run(
             arguments, {std::cout, std::cerr, skillbench::isErrorStreamATerminal()});
-        std::cout.flush();
+        if (!std::cout.flush()) {
+            std::cerr << "skillbench: the output cannot be written\n";
+            return 1;
+        }
         return exitCode;
     } catch (const std::exception& exception) {
         std::cerr << "skillbench: " << exception.what() << '\n';

@@ -30,15 +30,6 @@ std::string_view categoryText(const skill::Element::Class& elementClass) {
     return workbench::model::toBasicString<char>(elementClass.category());
 }
 
-/// Aligns columns of text that is not ASCII as well as of text that is, one place per character.
-std::string padded(std::string_view text, std::size_t width) {
-    const auto characters =
-        static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char character) {
-            return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
-        }));
-    return std::string(text) + std::string(width - std::min(width, characters), ' ');
-}
-
 void printText(const host::Workbench& workbench, std::ostream& out) {
     for (const auto& loaded : workbench.skills()) {
         const skill::Skill::Class& skillClass = loaded->skillClass();

@@ -2,6 +2,8 @@
 
 #include <corvane/utils/string/transcode.hpp>
 
+#include <algorithm>
+
 namespace corvane::skillbench {
 
 std::string inQuotes(std::string_view text) {
@@ -33,6 +35,14 @@ std::string onOneLine(std::string_view text) {
 
 std::string onOneLine(std::wstring_view text) {
     return onOneLine(utils::string::toUtf8(text));
+}
+
+std::string padded(std::string_view text, std::size_t width) {
+    const auto characters =
+        static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char character) {
+            return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
+        }));
+    return std::string(text) + std::string(width - std::min(width, characters), ' ');
 }
 
 std::filesystem::path pathOf(std::string_view text) {

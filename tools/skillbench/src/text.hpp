@@ -16,6 +16,9 @@ namespace corvane::skillbench {
 [[nodiscard]] std::string onOneLine(std::string_view text);
 [[nodiscard]] std::string onOneLine(std::wstring_view text);
 
+/// The text and blanks behind it up to the width, counting one place per character.
+[[nodiscard]] std::string padded(std::string_view text, std::size_t width);
+
 [[nodiscard]] std::filesystem::path pathOf(std::string_view text);
 [[nodiscard]] std::string pathText(const std::filesystem::path& path);
 

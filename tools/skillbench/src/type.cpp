@@ -9,7 +9,6 @@
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/bindings/functional.hpp>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -25,10 +24,8 @@ namespace {
 namespace functional = workbench::bindings::functional;
 
 void print(std::string_view key, const TextBox& box, std::ostream& out) {
-    constexpr std::size_t kKeyColumn = 14;
-    const std::string name = onOneLine(key);
-    out << name << std::string(kKeyColumn - std::min(kKeyColumn - 1, name.size()), ' ')
-        << box.picture() << "   ";
+    constexpr std::size_t kKeyColumn = 13;
+    out << padded(onOneLine(key), kKeyColumn) << ' ' << box.picture() << "   ";
     if (box.anchor() == box.cursor()) {
         out << "cursor " << box.cursor() << '\n';
     } else {
