@@ -76,3 +76,6 @@ endif()
 if(WIN32)
     set(CMAKE_SHARED_LIBRARY_PREFIX "") # CorvaneUtils.dll with every compiler
 endif()
+if(MSVC)
+    add_compile_definitions(NOMINMAX) # the other compilers' standard library defines it
+endif()

@@ -17,7 +17,8 @@ foreach(header IN ITEMS boost tl CLI)
 endforeach()
 foreach(package IN ITEMS tl-expected:tl::expected CLI11:CLI11::CLI11)
     string(REGEX MATCH "^([^:]+):(.*)$" _ "${package}")
-    file(WRITE "${links}/lib/cmake/${CMAKE_MATCH_1}/${CMAKE_MATCH_1}-config.cmake"
+    string(TOLOWER "${CMAKE_MATCH_1}" name)
+    file(WRITE "${links}/lib/cmake/${name}/${name}-config.cmake"
         "if(NOT TARGET ${CMAKE_MATCH_2})
     add_library(${CMAKE_MATCH_2} INTERFACE IMPORTED)
     set_target_properties(${CMAKE_MATCH_2} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES \"${links}/include\")

@@ -2,9 +2,6 @@
 
 #include "comparedLength.hpp"
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 namespace corvane::workbench::i18n {
