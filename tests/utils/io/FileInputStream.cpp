@@ -1,14 +1,18 @@
 #include <corvane/utils/io/FileInputStream.hpp>
 
+#include "utils/io/DeepFolder.hpp"
 #include "utils/io/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <system_error>
 
 namespace {
 
+using corvane::tests::DeepFolder;
 using corvane::tests::TemporaryFolder;
 using corvane::utils::io::FileInputStream;
 
@@ -97,6 +101,59 @@ TEST(FileInputStream, RefusesAFolder) {
     } catch (const std::system_error& error) {
         EXPECT_EQ(error.code(), std::errc::is_a_directory);
         EXPECT_TRUE(std::string(error.what()).starts_with("cannot open ")) << error.what();
+    }
+}
+
+TEST(FileInputStream, StatesExactlyWhyAFileCannotBeOpened) {
+    const TemporaryFolder folder;
+    const auto path = folder.path() / "missing.json";
+    try {
+        const FileInputStream stream(path);
+        ADD_FAILURE() << "opened";
+    } catch (const std::system_error& error) {
+        EXPECT_EQ(error.what(), "cannot open " + path.string() + ": No such file or directory");
+    }
+    try {
+        const FileInputStream stream(folder.path());
+        ADD_FAILURE() << "opened";
+    } catch (const std::system_error& error) {
+        EXPECT_EQ(error.what(), "cannot open " + folder.path().string() + ": Is a directory");
+    }
+}
+
+TEST(FileInputStream, OpensAPathOfAnyLength) {
+    const TemporaryFolder folder;
+    const DeepFolder deep(folder.path());
+    {
+        std::ofstream(deep.file(), std::ios_base::binary) << "content";
+    }
+    const auto path = deep.path() / "file.json";
+    ASSERT_GT(path.native().size(), 300U);
+    FileInputStream stream(path);
+    std::string storage;
+    EXPECT_EQ(stream.readRest(storage), "content");
+    EXPECT_EQ(stream.path(), path);
+}
+
+TEST(FileInputStream, OpensALongPathThatIsNotInItsShortestForm) {
+    const TemporaryFolder folder;
+    const DeepFolder deep(folder.path());
+    {
+        std::ofstream(deep.file(), std::ios_base::binary) << "content";
+    }
+    FileInputStream stream(deep.path() / "." / ".." / deep.path().filename() / "file.json");
+    EXPECT_EQ(stream.get(), 'c');
+}
+
+TEST(FileInputStream, NamesALongPathAsItWasGiven) {
+    const TemporaryFolder folder;
+    const DeepFolder deep(folder.path());
+    const auto path = deep.path() / "missing.json";
+    try {
+        const FileInputStream stream(path);
+        ADD_FAILURE() << "opened";
+    } catch (const std::system_error& error) {
+        EXPECT_EQ(error.what(), "cannot open " + path.string() + ": No such file or directory");
     }
 }
 

@@ -1,5 +1,6 @@
 #include <corvane/utils/io/FileOutputStream.hpp>
 
+#include "utils/io/DeepFolder.hpp"
 #include "utils/io/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 
 namespace {
 
+using corvane::tests::DeepFolder;
 using corvane::tests::TemporaryFolder;
 using corvane::utils::io::FileOutputStream;
 
@@ -110,6 +112,50 @@ TEST(FileOutputStream, RefusesToReplaceAFolder) {
     EXPECT_TRUE(text.starts_with("cannot write ")) << text;
     EXPECT_TRUE(std::filesystem::is_directory(folder.path()));
     EXPECT_EQ(folder.count(), 0U);
+}
+
+TEST(FileOutputStream, LeavesNothingBehindWhenTheTargetBecomesAFolder) {
+    const TemporaryFolder folder;
+    const auto path = folder.path() / "file.json";
+    FileOutputStream stream(path);
+    stream.write("x");
+    std::filesystem::create_directory(path);
+    EXPECT_THROW(stream.close(), std::system_error);
+    EXPECT_EQ(folder.count(), 1U);
+}
+
+TEST(FileOutputStream, WritesToAPathOfAnyLength) {
+    const TemporaryFolder folder;
+    const DeepFolder deep(folder.path());
+    const auto path = deep.path() / "file.json";
+    ASSERT_GT(path.native().size(), 300U);
+    {
+        FileOutputStream stream(path);
+        stream.write("old");
+        stream.close();
+    }
+    {
+        FileOutputStream stream(path);
+        stream.write("new");
+        stream.close();
+        EXPECT_EQ(stream.path(), path);
+    }
+    EXPECT_EQ(TemporaryFolder::read(deep.file()), "new");
+}
+
+TEST(FileOutputStream, WritesNextToTheLongestPathThatNeedsNoOtherForm) {
+    // The name of the temporary file is longer than that of the file.
+    const TemporaryFolder folder;
+    for (std::size_t length = 225; length <= 259; ++length) {
+        const std::size_t used = folder.path().native().size() + 1;
+        ASSERT_LT(used, 200U);
+        const auto path = folder.path() / std::string(length - used, 'n');
+        FileOutputStream stream(path);
+        stream.write("x");
+        stream.close();
+        EXPECT_EQ(TemporaryFolder::read(path), "x") << length;
+    }
+    EXPECT_EQ(folder.count(), 35U);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "pathText.hpp"
+#include "systemPath.hpp"
 
 namespace corvane::utils::io {
 
@@ -16,14 +17,15 @@ constexpr std::size_t kBlockSize = 64 * 1024;
 } // namespace
 
 FileInputStream::FileInputStream(std::filesystem::path path) : path_(std::move(path)) {
+    const std::filesystem::path place = systemPath(path_);
     std::error_code ignored;
-    if (std::filesystem::is_directory(path_, ignored)) {
+    if (std::filesystem::is_directory(place, ignored)) {
         throwPathError("open", path_, std::make_error_code(std::errc::is_a_directory));
     }
     // The stream has its own, larger buffer.
     file_.pubsetbuf(nullptr, 0);
     errno = 0;
-    if (file_.open(path_, std::ios_base::in | std::ios_base::binary) == nullptr) {
+    if (file_.open(place, std::ios_base::in | std::ios_base::binary) == nullptr) {
         throwPathError("open", path_, lastError());
     }
 }
@@ -45,7 +47,7 @@ std::string_view FileInputStream::readRestInto(std::string& storage) {
     storage.assign(buffered());
     setBuffer({});
     std::error_code unknownSize;
-    const std::uintmax_t fileSize = std::filesystem::file_size(path_, unknownSize);
+    const std::uintmax_t fileSize = std::filesystem::file_size(systemPath(path_), unknownSize);
     std::size_t block = kBlockSize;
     if (!unknownSize && fileSize <= storage.max_size() / 2) {
         // One byte more shows in the same step that the end has been reached.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "pathText.hpp"
+#include "systemPath.hpp"
 
 namespace corvane::utils::io {
 
@@ -39,7 +40,7 @@ constexpr std::size_t kBlockSize = 64 * 1024;
 } // namespace
 
 FileOutputStream::FileOutputStream(std::filesystem::path path)
-    : path_(std::move(path)), target_(targetOf(path_)) {
+    : path_(std::move(path)), target_(targetOf(systemPath(path_))) {
     std::error_code ignored;
     if (std::filesystem::is_directory(target_, ignored)) {
         throwPathError("write", path_, std::make_error_code(std::errc::is_a_directory));

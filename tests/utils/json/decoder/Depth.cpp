@@ -1,8 +1,8 @@
-// How much stack the deepest text needs; only Linux lets a thread's stack be chosen here.
+// How much stack the deepest text needs.
+#include "onStack.hpp"
 #include "utils/json/decoder/ParsedText.hpp"
 
 #include <gtest/gtest.h>
-#include <pthread.h>
 
 #include <string>
 
@@ -11,8 +11,7 @@ namespace {
 using corvane::tests::syntaxError;
 
 TEST(JsonDecoderDocument, ReadsTheDeepestTextOnAStackOfHalfAMebibyte) {
-    static std::string text;
-    text.clear();
+    std::string text;
     for (int level = 0; level != 256; ++level) {
         text += "[{\"a\\n\":";
     }
@@ -20,20 +19,8 @@ TEST(JsonDecoderDocument, ReadsTheDeepestTextOnAStackOfHalfAMebibyte) {
     for (int level = 0; level != 256; ++level) {
         text += "}]";
     }
-    static std::string error;
-    error = "not run";
-
-    pthread_attr_t attributes;
-    ASSERT_EQ(pthread_attr_init(&attributes), 0);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 512 * 1024), 0);
-    pthread_t thread{};
-    const auto run = [](void*) -> void* {
-        error = syntaxError(text);
-        return nullptr;
-    };
-    ASSERT_EQ(pthread_create(&thread, &attributes, run, nullptr), 0);
-    ASSERT_EQ(pthread_join(thread, nullptr), 0);
-    pthread_attr_destroy(&attributes);
+    std::string error = "not run";
+    corvane::tests::runOnStack(512 * 1024, [&] { error = syntaxError(text); });
     EXPECT_EQ(error, "nothing thrown");
 }
 
