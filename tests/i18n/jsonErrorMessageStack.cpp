@@ -1,9 +1,9 @@
-// Long messages on a small stack. POSIX only: the standard library cannot ask for a stack size.
+// Long messages on a small stack.
 #include <corvane/workbench/i18n/jsonErrorMessage.hpp>
 
-#include <gtest/gtest.h>
+#include "onStack.hpp"
 
-#include <pthread.h>
+#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <exception>
@@ -25,27 +25,12 @@ private:
     std::string text_;
 };
 
-struct Task {
-    LongError error;
-    std::wstring result;
-};
-
-void* run(void* argument) {
-    Task& task = *static_cast<Task*>(argument);
-    task.result = corvane::workbench::i18n::jsonErrorMessage(task.error);
-    return nullptr;
-}
-
 std::wstring messageOnASmallStack(std::string text) {
-    Task task{LongError(std::move(text)), {}};
-    pthread_attr_t attributes;
-    EXPECT_EQ(pthread_attr_init(&attributes), 0);
-    EXPECT_EQ(pthread_attr_setstacksize(&attributes, 512 * 1024), 0);
-    pthread_t thread{};
-    EXPECT_EQ(pthread_create(&thread, &attributes, run, &task), 0);
-    EXPECT_EQ(pthread_join(thread, nullptr), 0);
-    EXPECT_EQ(pthread_attr_destroy(&attributes), 0);
-    return std::move(task.result);
+    const LongError error(std::move(text));
+    std::wstring result;
+    corvane::tests::runOnStack(512 * 1024,
+                               [&] { result = corvane::workbench::i18n::jsonErrorMessage(error); });
+    return result;
 }
 
 TEST(JsonErrorMessageOnASmallStack, ALongTextAfterTheLineIsKeptWhole) {

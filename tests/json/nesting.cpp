@@ -1,14 +1,11 @@
 // The deepest values that the decoder accepts, on a thread with a stack of 1 MiB.
 #include <corvane/workbench/json/Value.hpp>
 
+#include "onStack.hpp"
+
 #include <gtest/gtest.h>
 
-#include <pthread.h>
-
 #include <cstddef>
-#include <exception>
-#include <functional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -24,22 +21,6 @@ constexpr std::size_t kStack = (__has_feature(address_sanitizer) ? 8U : 1U) << 2
 #else
 constexpr std::size_t kStack = 1U << 20U;
 #endif
-
-/// Runs the action on a thread of its own with a stack of that size.
-void runOnStack(std::size_t stack, const std::function<void()>& action) {
-    pthread_attr_t attributes;
-    ASSERT_EQ(pthread_attr_init(&attributes), 0);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, stack), 0);
-    pthread_t thread{};
-    const auto run = [](void* argument) -> void* {
-        (*static_cast<const std::function<void()>*>(argument))();
-        return nullptr;
-    };
-    ASSERT_EQ(
-        pthread_create(&thread, &attributes, run, const_cast<std::function<void()>*>(&action)), 0);
-    ASSERT_EQ(pthread_join(thread, nullptr), 0);
-    pthread_attr_destroy(&attributes);
-}
 
 std::string arrays(std::size_t levels) {
     return std::string(levels, '[') + std::string(levels, ']');
@@ -66,14 +47,14 @@ void useInEveryWay(const std::string& text) {
 }
 
 TEST(JsonNesting, 512LevelsAreUsedInEveryWayOnAStackOf1MiB) {
-    runOnStack(kStack, [] {
+    tests::runOnStack(kStack, [] {
         useInEveryWay(arrays(512));
         useInEveryWay(objects(512));
     });
 }
 
 TEST(JsonNesting, 513LevelsAreRefused) {
-    runOnStack(kStack, [] {
+    tests::runOnStack(kStack, [] {
         EXPECT_FALSE(Value::fromString(arrays(513)).has_value());
         EXPECT_FALSE(Value::fromString(objects(513)).has_value());
         EXPECT_FALSE(Value::fromString(std::string(1'000'000, '[')).has_value());
