@@ -14,14 +14,14 @@ public:
     std::wstring displayName() const override { return L"First skill"; }
     std::string_view version() const override { return "1.0.0"; }
     void registerElementClasses(Registry& registry) const override {
-        registry.registerElementClass(_mixerClass);
+        registry.registerElementClass(mixerClass_);
     }
     std::unique_ptr<workbench::skill::Skill> createSkill() const override {
         return std::make_unique<FirstSkill>();
     }
 
 private:
-    MixerClass _mixerClass;
+    MixerClass mixerClass_;
 };
 
 const FirstSkillClass kFirstSkill;

@@ -26,33 +26,33 @@ const workbench::bindings::PropertyKey kShare;
 
 void Mixer::configureProperties(PropertyConfigurationContext& context) {
     context.configure(kTopSpeed, {.state = [this] {
-                          return check(_topSpeed > 0 && _topSpeed <= 3000,
+                          return check(topSpeed_ > 0 && topSpeed_ <= 3000,
                                        "The top speed must lie between 1 and 3000.");
                       }});
-    context.configure(_leader.propertyId(), {.state = [this] { return leaderState(); }},
-                      {.crossReferenceController = &_leader});
+    context.configure(leader_.propertyId(), {.state = [this] { return leaderState(); }},
+                      {.crossReferenceController = &leader_});
     context.configure(
         kShare,
-        {.state = [this] { return check(_share > 0, "The share must be greater than 0 %."); },
-         .visibility = [this] { return static_cast<bool>(_leader); },
-         .visibilityDependencies = {_leader.propertyId()}});
+        {.state = [this] { return check(share_ > 0, "The share must be greater than 0 %."); },
+         .visibility = [this] { return static_cast<bool>(leader_); },
+         .visibilityDependencies = {leader_.propertyId()}});
     context.configure(
         Step::kList,
         {.state = [this] { return stepsState(); }, .stateDependencies = {Step::kList, kTopSpeed}},
-        {.subPropertyContainer = &_steps});
+        {.subPropertyContainer = &steps_});
 }
 
 Mixer::PropertyState Mixer::leaderState() const {
-    if (!_leader) {
+    if (!leader_) {
         return {};
     }
-    const auto speed = _leader.attribute();
+    const auto speed = leader_.attribute();
     return speed ? PropertyState() : tl::unexpected(speed.error());
 }
 
 Mixer::PropertyState Mixer::stepsState() const {
-    for (std::size_t index = 0; index < _steps.size(); ++index) {
-        if (_steps[index].speed > _topSpeed) {
+    for (std::size_t index = 0; index < steps_.size(); ++index) {
+        if (steps_[index].speed > topSpeed_) {
             return tl::unexpected(text("No step may be faster than the top speed."));
         }
     }
@@ -62,16 +62,16 @@ Mixer::PropertyState Mixer::stepsState() const {
 void Mixer::load(utils::json::decoder::Object& object, workbench::config::Context& context) {
     for (const auto& [name, value] : object) {
         if (name == "topSpeed") {
-            _topSpeed = value.asInt64();
+            topSpeed_ = value.asInt64();
         } else if (name == "leader") {
-            context.resolve(workbench::config::Context::ReferenceKey(value), _leader);
+            context.resolve(workbench::config::Context::ReferenceKey(value), leader_);
         } else if (name == "share") {
-            _share = value.asInt64();
+            share_ = value.asInt64();
         } else if (name == "steps") {
             for (utils::json::decoder::Value& row : value.asArray()) {
                 Step step;
                 step.load(row);
-                _steps.insert(_steps.size(), step);
+                steps_.insert(steps_.size(), step);
             }
         } else {
             workbench::config::throwUnknownParameterError(name);
@@ -80,21 +80,21 @@ void Mixer::load(utils::json::decoder::Object& object, workbench::config::Contex
 }
 
 void Mixer::save(utils::json::encoder::Object& object) const {
-    object.addMember("topSpeed").writeNumber(utils::numeric::format(_topSpeed).view());
-    if (_leader) {
-        _leader.saveTo(object, "leader");
-        object.addMember("share").writeNumber(utils::numeric::format(_share).view());
+    object.addMember("topSpeed").writeNumber(utils::numeric::format(topSpeed_).view());
+    if (leader_) {
+        leader_.saveTo(object, "leader");
+        object.addMember("share").writeNumber(utils::numeric::format(share_).view());
     }
-    if (_steps.size() > 0) {
+    if (steps_.size() > 0) {
         auto rows = object.addMember("steps").writeArray();
-        for (std::size_t index = 0; index < _steps.size(); ++index) {
-            _steps[index].saveTo(rows);
+        for (std::size_t index = 0; index < steps_.size(); ++index) {
+            steps_[index].saveTo(rows);
         }
     }
 }
 
 void Mixer::makeDefault() {
-    _topSpeed = 1500;
+    topSpeed_ = 1500;
 }
 
 bool Mixer::forEachAttribute(
@@ -107,39 +107,39 @@ bool Mixer::forEachAttribute(
 void Mixer::forEachEditableProperty(
     utils::core::function_ref<void(const workbench::skill::EditableProperty&)> callback) {
     using workbench::skill::EditableProperty;
-    callback(numberEditor("topSpeed", "Top speed", propertyHandle(kTopSpeed), _topSpeed));
+    callback(numberEditor("topSpeed", "Top speed", propertyHandle(kTopSpeed), topSpeed_));
     callback({.name = "leader",
               .displayName = text("Follows"),
               .editor = EditableProperty::Editor::Reference,
-              .property = propertyHandle(_leader.propertyId()),
-              .text = [this] { return utils::string::toWide(_leader.primaryKey()); }});
-    callback(numberEditor("share", "Share (%)", propertyHandle(kShare), _share));
+              .property = propertyHandle(leader_.propertyId()),
+              .text = [this] { return utils::string::toWide(leader_.primaryKey()); }});
+    callback(numberEditor("share", "Share (%)", propertyHandle(kShare), share_));
 
     EditableProperty steps;
     steps.name = "steps";
     steps.displayName = text("Steps");
     steps.editor = EditableProperty::Editor::SubElementList;
     steps.property = propertyHandle(Step::kList);
-    steps.text = [this] { return std::to_wstring(_steps.size()); };
+    steps.text = [this] { return std::to_wstring(steps_.size()); };
     steps.forEachSubElement =
         [this](const utils::core::function_ref<void(workbench::skill::SubElement&)>& visit) {
-            for (std::size_t index = 0; index < _steps.size(); ++index) {
-                visit(_steps[index]);
+            for (std::size_t index = 0; index < steps_.size(); ++index) {
+                visit(steps_[index]);
             }
         };
     steps.insertSubElement = [this, list = steps.property](std::size_t index) -> State {
-        if (index > _steps.size()) {
+        if (index > steps_.size()) {
             return tl::unexpected(text("There is no such step."));
         }
-        _steps.insert(index, Step());
+        steps_.insert(index, Step());
         list.publish(workbench::bindings::Action::Insert, index);
         return {};
     };
     steps.removeSubElement = [this, list = steps.property](std::size_t index) -> State {
-        if (index >= _steps.size()) {
+        if (index >= steps_.size()) {
             return tl::unexpected(text("There is no such step."));
         }
-        _steps.remove(index);
+        steps_.remove(index);
         list.publish(workbench::bindings::Action::Remove, index);
         return {};
     };

@@ -29,10 +29,10 @@ private:
     PropertyState leaderState() const;
     PropertyState stepsState() const;
 
-    std::int64_t _topSpeed = 0;
-    workbench::model::AttributeReference _leader;
-    std::int64_t _share = 100;
-    Steps _steps;
+    std::int64_t topSpeed_ = 0;
+    workbench::model::AttributeReference leader_;
+    std::int64_t share_ = 100;
+    Steps steps_;
 };
 
 } // namespace first_skill

@@ -25,11 +25,11 @@ public:
     workbench::model::ElementCategory category() const override {
         return workbench::model::ElementCategory::Device;
     }
-    const workbench::skill::AbstractElementFactory& factory() const override { return _factory; }
+    const workbench::skill::AbstractElementFactory& factory() const override { return factory_; }
     std::string defaultName() const override { return "Mixer"; }
 
 private:
-    MixerFactory _factory;
+    MixerFactory factory_;
 };
 
 } // namespace first_skill

@@ -5,29 +5,29 @@
 namespace first_skill {
 
 Steps::Steps(const Steps& other) : PropertyContainer(other) {
-    for (const auto& row : other._rows) {
+    for (const auto& row : other.rows_) {
         insert(size(), *row);
     }
 }
 
 Step& Steps::insert(std::size_t index, const Step& step) {
-    const auto place = std::next(_rows.begin(), static_cast<std::ptrdiff_t>(index));
-    Step& row = **_rows.insert(place, std::make_unique<Step>(step));
+    const auto place = std::next(rows_.begin(), static_cast<std::ptrdiff_t>(index));
+    Step& row = **rows_.insert(place, std::make_unique<Step>(step));
     row.setEnclosingPropertyContainer(*this, {});
     return row;
 }
 
 void Steps::remove(std::size_t index) {
-    const auto place = std::next(_rows.begin(), static_cast<std::ptrdiff_t>(index));
+    const auto place = std::next(rows_.begin(), static_cast<std::ptrdiff_t>(index));
     const std::unique_ptr<Step> row = std::move(*place);
-    _rows.erase(place);
+    rows_.erase(place);
     row->resetEnclosingPropertyContainer({});
 }
 
 void Steps::forEachSubPropertyContainer(
     const utils::core::function_ref<void(PropertyContainer&)>& callback,
     bool /*includeInvisible*/) {
-    for (const auto& row : _rows) {
+    for (const auto& row : rows_) {
         callback(*row);
     }
 }

@@ -20,8 +20,8 @@ public:
     Steps& operator=(const Steps&) = delete;
     ~Steps() override = default;
 
-    std::size_t size() const { return _rows.size(); }
-    Step& operator[](std::size_t index) const { return *_rows[index]; }
+    std::size_t size() const { return rows_.size(); }
+    Step& operator[](std::size_t index) const { return *rows_[index]; }
     Step& insert(std::size_t index, const Step& step);
     void remove(std::size_t index);
 
@@ -36,7 +36,7 @@ private:
     std::uint64_t localPropertyErrorCount() const override;
     void propertyNotificationRaised(const workbench::bindings::PropertyId& property) override;
 
-    std::vector<std::unique_ptr<Step>> _rows;
+    std::vector<std::unique_ptr<Step>> rows_;
 };
 
 } // namespace first_skill

@@ -65,11 +65,11 @@ struct ConfigurationReader::GivenUp : std::runtime_error {
 /// What an element's object says for the workbench; the filter that takes it out.
 class ConfigurationReader::ElementMembers {
 public:
-    ElementMembers(ConfigurationReader& reader, ElementNode& node) : _reader(reader), _node(node) {}
+    ElementMembers(ConfigurationReader& reader, ElementNode& node) : reader_(reader), node_(node) {}
 
     /// Consumes the reserved members; refuses a member of any kind that comes a second time.
     bool operator()(const decoder::Name& name, decoder::Value& value) {
-        if (!_seen.emplace(name.text()).second) {
+        if (!seen_.emplace(name.text()).second) {
             throw Fault(name.location(),
                         "duplicate member \"" + std::string(name.text()) + "\" in JSON object");
         }
@@ -78,17 +78,17 @@ public:
         } else if (name == kUuidMember) {
             readUuid(value);
         } else if (name == kAccessControlMember) {
-            _node._accessControl.emplace().decode(value, {});
+            node_.accessControl_.emplace().decode(value, {});
         } else if (name == kChildrenMember) {
-            _reader.readChildren(_node, value);
+            reader_.readChildren(node_, value);
         } else {
             return false;
         }
         return true;
     }
 
-    [[nodiscard]] bool hasName() const noexcept { return _hasName; }
-    [[nodiscard]] bool hasUuid() const noexcept { return _hasUuid; }
+    [[nodiscard]] bool hasName() const noexcept { return hasName_; }
+    [[nodiscard]] bool hasUuid() const noexcept { return hasUuid_; }
 
 private:
     void readName(const decoder::Value& value) {
@@ -96,11 +96,11 @@ private:
         if (const auto valid = checkElementName(name); !valid) {
             throw Fault(value.location(), valid.error());
         }
-        if (_node.parent()->findChild(name) != nullptr) {
-            throw Fault(value.location(), nameTaken(*_node.parent(), name));
+        if (node_.parent()->findChild(name) != nullptr) {
+            throw Fault(value.location(), nameTaken(*node_.parent(), name));
         }
-        _node._name = std::move(name);
-        _hasName = true;
+        node_.name_ = std::move(name);
+        hasName_ = true;
     }
 
     void readUuid(const decoder::Value& value) {
@@ -112,43 +112,43 @@ private:
         if (uuid->isNil()) {
             throw Fault(value.location(), "the nil UUID identifies no element");
         }
-        if (!_reader._tree.claimUuid(_node, *uuid)) {
+        if (!reader_.tree_.claimUuid(node_, *uuid)) {
             throw Fault(value.location(),
                         "the UUID " + uuid->toString() + " belongs to another element already");
         }
-        _hasUuid = true;
+        hasUuid_ = true;
     }
 
-    ConfigurationReader& _reader;
-    ElementNode& _node;
-    std::unordered_set<std::string_view> _seen;
-    bool _hasName = false;
-    bool _hasUuid = false;
+    ConfigurationReader& reader_;
+    ElementNode& node_;
+    std::unordered_set<std::string_view> seen_;
+    bool hasName_ = false;
+    bool hasUuid_ = false;
 };
 
 ConfigurationReader::ConfigurationReader(const ElementClassRegistry& classes,
                                          const LoadOptions& options,
                                          const std::filesystem::path& file, ElementTree& tree,
                                          LoadContext& context, std::vector<Problem>& problems)
-    : _classes(classes), _options(options), _file(file), _tree(tree), _context(context),
-      _problems(problems), _progress(options.progress, LoadProgress::Stage::Elements, 0) {}
+    : classes_(classes), options_(options), file_(file), tree_(tree), context_(context),
+      problems_(problems), progress_(options.progress, LoadProgress::Stage::Elements, 0) {}
 
 bool ConfigurationReader::read(const decoder::Value& root) {
     try {
         readRoot(root);
-        if (!_progress.finish()) {
+        if (!progress_.finish()) {
             throw GivenUp();
         }
         return true;
     } catch (const GivenUp&) {
-        if (_problems.empty()) {
-            _problems.push_back({_file, 0, 0, Problem::Severity::Error, "the load was given up"});
+        if (problems_.empty()) {
+            problems_.push_back({file_, 0, 0, Problem::Severity::Error, "the load was given up"});
         }
     } catch (const Fault& fault) {
-        _problems.push_back({_file, fault.location.line(), fault.location.column(),
+        problems_.push_back({file_, fault.location.line(), fault.location.column(),
                              Problem::Severity::Error, fault.what()});
     } catch (const std::exception& exception) {
-        _problems.push_back(problemOf(exception, _file, root.location()));
+        problems_.push_back(problemOf(exception, file_, root.location()));
     }
     return false;
 }
@@ -164,7 +164,7 @@ void ConfigurationReader::readRoot(const decoder::Value& root) {
             throw Fault(member.name.location(), "duplicate member \"children\" in JSON object");
         }
         hasChildren = true;
-        readChildren(_tree.root(), member.value);
+        readChildren(tree_.root(), member.value);
     }
     if (!hasChildren) {
         throw Fault(root.location(), "the configuration has no member \"children\"");
@@ -197,7 +197,7 @@ void ConfigurationReader::readChild(ElementNode& parent, const decoder::Value& c
 void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& classId,
                                       const decoder::Value& value) {
     const decoder::Location location = classId.location();
-    const skill::Element::Class* elementClass = _classes.find(classId);
+    const skill::Element::Class* elementClass = classes_.find(classId);
     if (elementClass == nullptr) {
         throw Fault(location, "unknown element class " + inQuotes(classId));
     }
@@ -209,9 +209,9 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
     auto node =
         std::make_unique<ElementNode>(*elementClass, elementClass->factory().createElement(),
                                       std::string(), corvane::utils::core::Uuid());
-    node->_parent = &parent;
-    node->_line = location.line();
-    node->_column = location.column();
+    node->parent_ = &parent;
+    node->line_ = location.line();
+    node->column_ = location.column();
     // UUIDs of a part that is left out may be used by another one.
     struct UuidClaims {
         ElementTree& tree;
@@ -221,13 +221,13 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
                 tree.releaseUuids(*top);
             }
         }
-    } claims{_tree, node.get()};
-    LoadContext::Frame frame(_context, *node);
+    } claims{tree_, node.get()};
+    LoadContext::Frame frame(context_, *node);
 
     ElementMembers members(*this, *node);
     object.addFilter(members);
-    skill::internal::ElementAccess::load(*node->_skillElement, object, _context);
-    if (_givenUp) {
+    skill::internal::ElementAccess::load(*node->skillElement_, object, context_);
+    if (givenUp_) {
         throw GivenUp();
     }
     // What the skill did not walk through is unknown to it, and must still pass the filter.
@@ -238,12 +238,12 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
         throw Fault(location, "the element has no member \"name\"");
     }
     if (!members.hasUuid()) {
-        _tree.claimNewUuid(*node);
+        tree_.claimNewUuid(*node);
     }
     frame.keep(value, location);
     claims.top = nullptr;
-    _tree.insert(parent, std::move(node));
-    if (!_progress.advance()) {
+    tree_.insert(parent, std::move(node));
+    if (!progress_.advance()) {
         throw GivenUp();
     }
 }
@@ -254,13 +254,13 @@ void ConfigurationReader::reportCurrentException(const decoder::Location& fallba
     } catch (const GivenUp&) {
         throw;
     } catch (const Fault& fault) {
-        _problems.push_back({_file, fault.location.line(), fault.location.column(),
+        problems_.push_back({file_, fault.location.line(), fault.location.column(),
                              Problem::Severity::Error, fault.what()});
     } catch (const std::exception& exception) {
-        _problems.push_back(problemOf(exception, _file, fallback));
+        problems_.push_back(problemOf(exception, file_, fallback));
     }
-    if (!_options.keepGoing) {
-        _givenUp = true;
+    if (!options_.keepGoing) {
+        givenUp_ = true;
         throw GivenUp();
     }
 }

@@ -46,14 +46,14 @@ private:
     /// Turns the exception being handled into a problem and ends the load unless it goes on.
     void reportCurrentException(const corvane::utils::json::decoder::Location& fallback);
 
-    const ElementClassRegistry& _classes;
-    const LoadOptions& _options;
-    const std::filesystem::path& _file;
-    ElementTree& _tree;
-    LoadContext& _context;
-    std::vector<Problem>& _problems;
-    ProgressReport _progress;
-    bool _givenUp = false;
+    const ElementClassRegistry& classes_;
+    const LoadOptions& options_;
+    const std::filesystem::path& file_;
+    ElementTree& tree_;
+    LoadContext& context_;
+    std::vector<Problem>& problems_;
+    ProgressReport progress_;
+    bool givenUp_ = false;
 };
 
 /// A problem in a file from a caught exception: located where the exception says, else at the

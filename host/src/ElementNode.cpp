@@ -18,14 +18,14 @@ constexpr std::size_t kFewChildren = 8;
 
 } // namespace
 
-ElementNode::ElementNode(ElementTree& tree) : _tree(&tree), _properties(*this) {}
+ElementNode::ElementNode(ElementTree& tree) : tree_(&tree), properties_(*this) {}
 
 ElementNode::ElementNode(const skill::Element::Class& elementClass,
                          std::unique_ptr<skill::Element> skillElement, std::string name,
                          const corvane::utils::core::Uuid& uuid)
-    : _elementClass(&elementClass), _name(std::move(name)), _uuid(uuid), _properties(*this),
-      _skillElement(std::move(skillElement)) {
-    skill::internal::ElementAccess::attach(*_skillElement, *this);
+    : elementClass_(&elementClass), name_(std::move(name)), uuid_(uuid), properties_(*this),
+      skillElement_(std::move(skillElement)) {
+    skill::internal::ElementAccess::attach(*skillElement_, *this);
 }
 
 ElementNode::~ElementNode() {
@@ -34,21 +34,21 @@ ElementNode::~ElementNode() {
         proxy->retire({});
     }
     // Children first: their skill's halves may still look at their parent's.
-    _childrenByName.clear();
-    _children.clear();
+    childrenByName_.clear();
+    children_.clear();
 }
 
 const skill::Element::Class& ElementNode::elementClass() const {
-    return *_elementClass;
+    return *elementClass_;
 }
 
 ElementNode* ElementNode::findChild(std::string_view name) const {
-    if (_children.size() > kFewChildren) {
-        const auto found = _childrenByName.find(name);
-        return found == _childrenByName.end() ? nullptr : found->second;
+    if (children_.size() > kFewChildren) {
+        const auto found = childrenByName_.find(name);
+        return found == childrenByName_.end() ? nullptr : found->second;
     }
-    for (const auto& child : _children) {
-        if (child->_name == name) {
+    for (const auto& child : children_) {
+        if (child->name_ == name) {
             return child.get();
         }
     }
@@ -57,20 +57,20 @@ ElementNode* ElementNode::findChild(std::string_view name) const {
 
 std::size_t ElementNode::depth() const noexcept {
     std::size_t result = 0;
-    for (const ElementNode* node = _parent; node != nullptr; node = node->_parent) {
+    for (const ElementNode* node = parent_; node != nullptr; node = node->parent_) {
         ++result;
     }
     return result;
 }
 
 corvane::utils::string::BasicStringView<char> ElementNode::nameImpl() const {
-    return _name;
+    return name_;
 }
 
 std::string ElementNode::primaryKeyImpl() const {
     std::size_t size = 0;
-    for (const ElementNode* node = this; node->_parent != nullptr; node = node->_parent) {
-        size += node->_name.size() + 1;
+    for (const ElementNode* node = this; node->parent_ != nullptr; node = node->parent_) {
+        size += node->name_.size() + 1;
     }
     if (size == 0) {
         return {};
@@ -78,9 +78,9 @@ std::string ElementNode::primaryKeyImpl() const {
     // Filled from the end; what is above the root has no separator.
     std::string result(size - 1, '.');
     std::size_t end = result.size();
-    for (const ElementNode* node = this; node->_parent != nullptr; node = node->_parent) {
-        const std::size_t begin = end - node->_name.size();
-        std::copy(node->_name.begin(), node->_name.end(),
+    for (const ElementNode* node = this; node->parent_ != nullptr; node = node->parent_) {
+        const std::size_t begin = end - node->name_.size();
+        std::copy(node->name_.begin(), node->name_.end(),
                   result.begin() + static_cast<std::ptrdiff_t>(begin));
         end = begin == 0 ? 0 : begin - 1;
     }
@@ -88,28 +88,28 @@ std::string ElementNode::primaryKeyImpl() const {
 }
 
 corvane::utils::core::Uuid ElementNode::uuidImpl() const {
-    return _uuid;
+    return uuid_;
 }
 
 std::wstring ElementNode::typeImpl() const {
-    return _elementClass != nullptr
-               ? _elementClass->displayName()
+    return elementClass_ != nullptr
+               ? elementClass_->displayName()
                : std::wstring(model::toBasicString<wchar_t>(model::ElementCategory::RootElement));
 }
 
 model::ElementCategory ElementNode::categoryImpl() const {
-    return _elementClass != nullptr ? _elementClass->category()
+    return elementClass_ != nullptr ? elementClass_->category()
                                     : model::ElementCategory::RootElement;
 }
 
 bool ElementNode::isInvisibleRootImpl() const {
-    return _parent == nullptr && _tree != nullptr;
+    return parent_ == nullptr && tree_ != nullptr;
 }
 
 const model::Element*
 ElementNode::findAncestorImpl(const skill::Element::Class& elementClass) const {
-    for (const ElementNode* node = _parent; node != nullptr; node = node->_parent) {
-        if (node->_elementClass == &elementClass) {
+    for (const ElementNode* node = parent_; node != nullptr; node = node->parent_) {
+        if (node->elementClass_ == &elementClass) {
             return node;
         }
     }
@@ -117,7 +117,7 @@ ElementNode::findAncestorImpl(const skill::Element::Class& elementClass) const {
 }
 
 bool ElementNode::isDescendentOfImpl(const model::Element& other) const {
-    for (const ElementNode* node = _parent; node != nullptr; node = node->_parent) {
+    for (const ElementNode* node = parent_; node != nullptr; node = node->parent_) {
         if (node == &other) {
             return true;
         }
@@ -127,7 +127,7 @@ bool ElementNode::isDescendentOfImpl(const model::Element& other) const {
 
 bool ElementNode::forEachAttributeImpl(
     const corvane::utils::core::function_ref<bool(const model::Attribute&)>& callback) const {
-    if (_skillElement == nullptr) {
+    if (skillElement_ == nullptr) {
         return false;
     }
     for (const model::Attribute* attribute :
@@ -137,20 +137,20 @@ bool ElementNode::forEachAttributeImpl(
             return true;
         }
     }
-    return skill::internal::ElementAccess::forEachAttribute(*_skillElement, callback);
+    return skill::internal::ElementAccess::forEachAttribute(*skillElement_, callback);
 }
 
 bool ElementNode::forEachEventImpl(
     const corvane::utils::core::function_ref<bool(const process::Event&)>& callback,
     bool /*forwardedFlag*/) const {
-    return _skillElement != nullptr &&
-           skill::internal::ElementAccess::forEachEvent(*_skillElement, callback);
+    return skillElement_ != nullptr &&
+           skill::internal::ElementAccess::forEachEvent(*skillElement_, callback);
 }
 
 bool ElementNode::forEachTaskImpl(
     const corvane::utils::core::function_ref<bool(const process::Task&)>& callback) const {
-    return _skillElement != nullptr &&
-           skill::internal::ElementAccess::forEachTask(*_skillElement, callback);
+    return skillElement_ != nullptr &&
+           skill::internal::ElementAccess::forEachTask(*skillElement_, callback);
 }
 
 model::ChildElementAccessor ElementNode::childElementsImpl() const {
@@ -162,11 +162,11 @@ const model::Element* ElementNode::childElementImpl(std::string_view name) const
 }
 
 const model::Element* ElementNode::parentElementImpl() const {
-    return _parent;
+    return parent_;
 }
 
 skill::Element* ElementNode::skillElementImpl() const {
-    return _skillElement.get();
+    return skillElement_.get();
 }
 
 model::internal::ElementReferenceData
@@ -175,11 +175,11 @@ ElementNode::referenceDataImpl(std::optional<std::string> memberName) const {
 }
 
 std::size_t ElementNode::elementCount() const {
-    return _children.size();
+    return children_.size();
 }
 
 const model::Element& ElementNode::elementAt(std::size_t index) const {
-    return *_children[index];
+    return *children_[index];
 }
 
 const model::Element& ElementNode::element() const {
@@ -188,65 +188,65 @@ const model::Element& ElementNode::element() const {
 
 void ElementNode::publishElementMembers() {
     const ElementNode* top = this;
-    while (top->_parent != nullptr) {
-        top = top->_parent;
+    while (top->parent_ != nullptr) {
+        top = top->parent_;
     }
-    if (top->_tree != nullptr) {
-        top->_tree->publishMembers(*this);
+    if (top->tree_ != nullptr) {
+        top->tree_->publishMembers(*this);
     }
 }
 
 std::shared_ptr<ReferenceProxy> ElementNode::proxy() const {
-    if (auto existing = _proxy.lock()) {
+    if (auto existing = proxy_.lock()) {
         return existing;
     }
     // References give out elements that may be changed through them, as the tree's owner does.
     auto created = std::make_shared<ReferenceProxy>(const_cast<ElementNode&>(*this));
-    _proxy = created;
+    proxy_ = created;
     return created;
 }
 
 std::shared_ptr<ReferenceProxy> ElementNode::existingProxy() const noexcept {
-    return _proxy.lock();
+    return proxy_.lock();
 }
 
 void ElementNode::insertChild(std::unique_ptr<ElementNode> child) {
     ElementNode& inserted = *child;
-    _children.push_back(std::move(child));
-    inserted._parent = this;
-    if (_children.size() <= kFewChildren) {
+    children_.push_back(std::move(child));
+    inserted.parent_ = this;
+    if (children_.size() <= kFewChildren) {
         return;
     }
-    if (_childrenByName.empty()) {
-        for (const auto& existing : _children) {
-            _childrenByName.emplace(existing->_name, existing.get());
+    if (childrenByName_.empty()) {
+        for (const auto& existing : children_) {
+            childrenByName_.emplace(existing->name_, existing.get());
         }
     } else {
-        _childrenByName.emplace(inserted._name, &inserted);
+        childrenByName_.emplace(inserted.name_, &inserted);
     }
 }
 
 std::unique_ptr<ElementNode> ElementNode::extractChild(ElementNode& child) {
     const auto position =
-        std::find_if(_children.begin(), _children.end(),
+        std::find_if(children_.begin(), children_.end(),
                      [&](const auto& candidate) { return candidate.get() == &child; });
     std::unique_ptr<ElementNode> result = std::move(*position);
-    _childrenByName.erase(result->_name);
-    _children.erase(position);
-    if (_children.size() <= kFewChildren) {
-        _childrenByName.clear();
+    childrenByName_.erase(result->name_);
+    children_.erase(position);
+    if (children_.size() <= kFewChildren) {
+        childrenByName_.clear();
     }
-    result->_parent = nullptr;
+    result->parent_ = nullptr;
     return result;
 }
 
 void ElementNode::renameChild(ElementNode& child, std::string name) {
     // The table's key is a view of the name, so it leaves the table before the name changes.
-    auto entry = _childrenByName.extract(child._name);
-    child._name = std::move(name);
+    auto entry = childrenByName_.extract(child.name_);
+    child.name_ = std::move(name);
     if (entry) {
-        entry.key() = child._name;
-        _childrenByName.insert(std::move(entry));
+        entry.key() = child.name_;
+        childrenByName_.insert(std::move(entry));
     }
 }
 

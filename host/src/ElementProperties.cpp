@@ -11,11 +11,11 @@ void ElementProperties::recount() {
 void ElementProperties::forEachSubPropertyContainer(
     const corvane::utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,
     bool /*includeInvisible*/) {
-    if (skill::Element* skillElement = _element.skillElement()) {
+    if (skill::Element* skillElement = element_.skillElement()) {
         callback(*skillElement);
     }
-    for (std::size_t index = 0; index < _element.childCount(); ++index) {
-        callback(_element.child(index).properties());
+    for (std::size_t index = 0; index < element_.childCount(); ++index) {
+        callback(element_.child(index).properties());
     }
 }
 

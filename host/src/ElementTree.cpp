@@ -9,10 +9,10 @@
 
 namespace corvane::workbench::host {
 
-ElementTree::ElementTree() : _root(std::make_unique<ElementNode>(*this)) {}
+ElementTree::ElementTree() : root_(std::make_unique<ElementNode>(*this)) {}
 
 ElementTree::~ElementTree() {
-    retireProxies(*_root);
+    retireProxies(*root_);
 }
 
 ElementTree::Place ElementTree::findDeepestBelow(ElementNode& top, std::string_view suffix) {
@@ -42,8 +42,8 @@ ElementNode* ElementTree::find(std::string_view key) const {
 }
 
 ElementNode* ElementTree::find(const corvane::utils::core::Uuid& uuid) const {
-    const auto found = _byUuid.find(uuid);
-    return found == _byUuid.end() ? nullptr : found->second;
+    const auto found = byUuid_.find(uuid);
+    return found == byUuid_.end() ? nullptr : found->second;
 }
 
 std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
@@ -51,10 +51,10 @@ std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
                                                    std::string name) {
     auto node = std::make_unique<ElementNode>(elementClass, elementClass.factory().createElement(),
                                               std::move(name), corvane::utils::core::Uuid());
-    node->_parent = &parent;
+    node->parent_ = &parent;
     claimNewUuid(*node);
     try {
-        skill::internal::ElementAccess::makeDefault(*node->_skillElement);
+        skill::internal::ElementAccess::makeDefault(*node->skillElement_);
         linkProperties(*node, [](ElementNode&) { throw; }, [] {});
     } catch (...) {
         releaseUuids(*node);
@@ -64,10 +64,10 @@ std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
 }
 
 bool ElementTree::claimUuid(ElementNode& node, const corvane::utils::core::Uuid& uuid) {
-    if (!_byUuid.emplace(uuid, &node).second) {
+    if (!byUuid_.emplace(uuid, &node).second) {
         return false;
     }
-    node._uuid = uuid;
+    node.uuid_ = uuid;
     return true;
 }
 
@@ -77,11 +77,11 @@ void ElementTree::claimNewUuid(ElementNode& node) {
 }
 
 void ElementTree::releaseUuids(const ElementNode& top) {
-    if (const auto found = _byUuid.find(top._uuid);
-        found != _byUuid.end() && found->second == &top) {
-        _byUuid.erase(found);
+    if (const auto found = byUuid_.find(top.uuid_);
+        found != byUuid_.end() && found->second == &top) {
+        byUuid_.erase(found);
     }
-    for (const auto& child : top._children) {
+    for (const auto& child : top.children_) {
         releaseUuids(*child);
     }
 }
@@ -91,33 +91,33 @@ void ElementTree::insert(ElementNode& parent, std::unique_ptr<ElementNode> node)
 }
 
 std::unique_ptr<ElementNode> ElementTree::extract(ElementNode& node) {
-    return node._parent->extractChild(node);
+    return node.parent_->extractChild(node);
 }
 
 void ElementTree::rename(ElementNode& node, std::string name) {
-    node._parent->renameChild(node, std::move(name));
+    node.parent_->renameChild(node, std::move(name));
 }
 
 void ElementTree::swapContents(ElementTree& other) noexcept {
-    _byUuid.swap(other._byUuid);
-    _root->_children.swap(other._root->_children);
-    _root->_childrenByName.swap(other._root->_childrenByName);
+    byUuid_.swap(other.byUuid_);
+    root_->children_.swap(other.root_->children_);
+    root_->childrenByName_.swap(other.root_->childrenByName_);
     for (ElementTree* tree : {this, &other}) {
-        for (const auto& child : tree->_root->_children) {
-            child->_parent = tree->_root.get();
+        for (const auto& child : tree->root_->children_) {
+            child->parent_ = tree->root_.get();
         }
     }
 }
 
 void ElementTree::clear() {
-    retireProxies(*_root);
-    _byUuid.clear();
-    _root->_childrenByName.clear();
-    _root->_children.clear();
+    retireProxies(*root_);
+    byUuid_.clear();
+    root_->childrenByName_.clear();
+    root_->children_.clear();
 }
 
 void ElementTree::shareRootProxy(const std::shared_ptr<ReferenceProxy>& proxy) {
-    _root->_proxy = proxy;
+    root_->proxy_ = proxy;
 }
 
 void ElementTree::linkProperties(ElementNode& top, const std::function<void(ElementNode&)>& failed,
@@ -126,20 +126,20 @@ void ElementTree::linkProperties(ElementNode& top, const std::function<void(Elem
     // it holds has been.
     constexpr bindings::PropertyContainer::SetEnclosingPropertyContainerOptions kUncounted{
         .reservedFlag = false, .keepNewContainerCount = true, .keepOldContainerCount = true};
-    for (const auto& child : top._children) {
+    for (const auto& child : top.children_) {
         linkProperties(*child, failed, done);
-        child->_properties.setEnclosingPropertyContainer(top._properties, kUncounted);
+        child->properties_.setEnclosingPropertyContainer(top.properties_, kUncounted);
     }
-    if (top._skillElement != nullptr) {
+    if (top.skillElement_ != nullptr) {
         try {
-            top._skillElement->setEnclosingPropertyContainer(top._properties, kUncounted);
+            top.skillElement_->setEnclosingPropertyContainer(top.properties_, kUncounted);
         } catch (...) {
             failed(top);
             // It counts as configured now, so that it can be linked.
-            top._skillElement->setEnclosingPropertyContainer(top._properties, kUncounted);
+            top.skillElement_->setEnclosingPropertyContainer(top.properties_, kUncounted);
         }
     }
-    top._properties.recount();
+    top.properties_.recount();
     done();
 }
 
@@ -152,8 +152,8 @@ void ElementTree::retireProxies(ElementNode& top) {
 }
 
 void ElementTree::publishMembers(ElementNode& node) {
-    if (_membersPublished) {
-        _membersPublished(node);
+    if (membersPublished_) {
+        membersPublished_(node);
     }
 }
 

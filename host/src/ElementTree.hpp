@@ -30,12 +30,12 @@ public:
     ElementTree& operator=(const ElementTree&) = delete;
     ~ElementTree();
 
-    [[nodiscard]] ElementNode& root() noexcept { return *_root; }
-    [[nodiscard]] const ElementNode& root() const noexcept { return *_root; }
-    [[nodiscard]] std::size_t elementCount() const noexcept { return _byUuid.size(); }
+    [[nodiscard]] ElementNode& root() noexcept { return *root_; }
+    [[nodiscard]] const ElementNode& root() const noexcept { return *root_; }
+    [[nodiscard]] std::size_t elementCount() const noexcept { return byUuid_.size(); }
 
     [[nodiscard]] Place findDeepest(std::string_view key) const {
-        return findDeepestBelow(*_root, key);
+        return findDeepestBelow(*root_, key);
     }
     /// The same for a suffix of a key below an element.
     [[nodiscard]] static Place findDeepestBelow(ElementNode& top, std::string_view suffix);
@@ -89,7 +89,7 @@ public:
 
     void publishMembers(ElementNode& node);
     void onMembersPublished(std::function<void(ElementNode&)> callback) {
-        _membersPublished = std::move(callback);
+        membersPublished_ = std::move(callback);
     }
 
     // Doors to the nodes, for those who edit the tree.
@@ -103,9 +103,9 @@ public:
     }
 
 private:
-    std::unordered_map<corvane::utils::core::Uuid, ElementNode*> _byUuid;
-    std::function<void(ElementNode&)> _membersPublished;
-    std::unique_ptr<ElementNode> _root;
+    std::unordered_map<corvane::utils::core::Uuid, ElementNode*> byUuid_;
+    std::function<void(ElementNode&)> membersPublished_;
+    std::unique_ptr<ElementNode> root_;
 };
 
 } // namespace corvane::workbench::host

@@ -54,26 +54,26 @@ void locateStrings(const decoder::Value& value, Locations& wanted) {
 } // namespace
 
 LoadContext::Frame::Frame(LoadContext& context, ElementNode& owner)
-    : _context(context), _owner(owner), _outer(context._frame), _first(context._requests.size()) {
-    context._frame = this;
+    : context_(context), owner_(owner), outer_(context.frame_), first_(context.requests_.size()) {
+    context.frame_ = this;
 }
 
 LoadContext::Frame::~Frame() {
-    _context._frame = _outer;
-    if (!_kept) {
-        _context._requests.erase(_context._requests.begin() + static_cast<std::ptrdiff_t>(_first),
-                                 _context._requests.end());
+    context_.frame_ = outer_;
+    if (!kept_) {
+        context_.requests_.erase(context_.requests_.begin() + static_cast<std::ptrdiff_t>(first_),
+                                 context_.requests_.end());
     }
 }
 
 void LoadContext::Frame::keep(const decoder::Value& object, const decoder::Location& element) {
-    _kept = true;
-    if (_requests.empty()) {
+    kept_ = true;
+    if (requests_.empty()) {
         return;
     }
     Locations locations;
-    for (const std::size_t index : _requests) {
-        locations.try_emplace(_context._requests[index].key);
+    for (const std::size_t index : requests_) {
+        locations.try_emplace(context_.requests_[index].key);
     }
     auto walk = object.asObject();
     for (const auto& member : walk) {
@@ -86,8 +86,8 @@ void LoadContext::Frame::keep(const decoder::Value& object, const decoder::Locat
     }
     // The same key twice: the first request belongs to the first place, and so on.
     std::unordered_map<std::string_view, std::size_t> used;
-    for (const std::size_t index : _requests) {
-        Request& request = _context._requests[index];
+    for (const std::size_t index : requests_) {
+        Request& request = context_.requests_[index];
         const auto& places = locations.find(request.key)->second;
         if (places.empty()) {
             request.location = element;
@@ -113,17 +113,17 @@ void LoadContext::resolveMemberReference(
 
 void LoadContext::add(ReferenceKey&& key, model::internal::BasicElementReference& reference,
                       bool isMember, std::function<void()>&& completion) {
-    _frame->_requests.push_back(_requests.size());
-    _requests.push_back({std::move(key).text(), &reference, isMember, &_frame->_owner,
+    frame_->requests_.push_back(requests_.size());
+    requests_.push_back({std::move(key).text(), &reference, isMember, &frame_->owner_,
                          decoder::Location(), std::move(completion), false});
 }
 
 bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::path& file,
                              std::vector<Problem>& problems) {
     const ImportKeys importKeys =
-        _options.resolveImportReferences ? ImportKeys::Resolve : ImportKeys::Keep;
-    ProgressReport progress(_options.progress, LoadProgress::Stage::References, _requests.size());
-    for (Request& request : _requests) {
+        options_.resolveImportReferences ? ImportKeys::Resolve : ImportKeys::Keep;
+    ProgressReport progress(options_.progress, LoadProgress::Stage::References, requests_.size());
+    for (Request& request : requests_) {
         *request.reference = request.isMember ? memberReferenceData(tree, request.key, importKeys)
                                               : elementReferenceData(tree, request.key, importKeys);
         if (request.completion) {
@@ -161,9 +161,9 @@ void LoadContext::reportCircles(const std::filesystem::path& file,
     };
     std::vector<CircleEdge> edges;
     std::vector<const Request*> requests;
-    edges.reserve(_requests.size());
-    requests.reserve(_requests.size());
-    for (const Request& request : _requests) {
+    edges.reserve(requests_.size());
+    requests.reserve(requests_.size());
+    for (const Request& request : requests_) {
         if (!request.resolved) {
             continue;
         }

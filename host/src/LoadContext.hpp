@@ -38,17 +38,17 @@ public:
     private:
         friend class LoadContext;
 
-        LoadContext& _context;
-        ElementNode& _owner;
-        Frame* _outer;
-        std::size_t _first;
-        std::vector<std::size_t> _requests;
-        bool _kept = false;
+        LoadContext& context_;
+        ElementNode& owner_;
+        Frame* outer_;
+        std::size_t first_;
+        std::vector<std::size_t> requests_;
+        bool kept_ = false;
     };
 
-    explicit LoadContext(const LoadOptions& options) : _options(options) {}
+    explicit LoadContext(const LoadOptions& options) : options_(options) {}
 
-    [[nodiscard]] std::size_t requestCount() const noexcept { return _requests.size(); }
+    [[nodiscard]] std::size_t requestCount() const noexcept { return requests_.size(); }
     /// Resolves all requests in the order in which they were made. What does not resolve is added
     /// to the problems, as are references in a circle. False when the progress callback says so.
     [[nodiscard]] bool resolveAll(const ElementTree& tree, const std::filesystem::path& file,
@@ -76,9 +76,9 @@ private:
              std::function<void()>&& completion);
     void reportCircles(const std::filesystem::path& file, std::vector<Problem>& problems) const;
 
-    const LoadOptions& _options;
-    std::vector<Request> _requests;
-    Frame* _frame = nullptr;
+    const LoadOptions& options_;
+    std::vector<Request> requests_;
+    Frame* frame_ = nullptr;
 };
 
 } // namespace corvane::workbench::host

@@ -8,7 +8,7 @@ LoadedSkill::LoadedSkill(
     const skill::Skill::Class& skillClass, std::unique_ptr<skill::Skill> instance,
     std::vector<std::reference_wrapper<const skill::Element::Class>> elementClasses,
     std::filesystem::path library)
-    : _skillClass(skillClass), _instance(std::move(instance)),
-      _elementClasses(std::move(elementClasses)), _library(std::move(library)) {}
+    : skillClass_(skillClass), instance_(std::move(instance)),
+      elementClasses_(std::move(elementClasses)), library_(std::move(library)) {}
 
 } // namespace corvane::workbench::host

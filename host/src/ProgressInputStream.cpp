@@ -8,15 +8,15 @@ namespace corvane::workbench::host {
 ProgressInputStream::ProgressInputStream(corvane::utils::io::InputStream<char>& source,
                                          const std::function<bool(const LoadProgress&)>& callback,
                                          std::uint64_t total)
-    : _source(source), _report(callback, LoadProgress::Stage::Reading, total),
-      _block(std::size_t{64} * 1024) {}
+    : source_(source), report_(callback, LoadProgress::Stage::Reading, total),
+      block_(std::size_t{64} * 1024) {}
 
 ProgressInputStream::~ProgressInputStream() = default;
 
 bool ProgressInputStream::refill() {
-    const std::size_t count = _source.read(_block.data(), _block.size());
-    setBuffer(std::string_view(_block.data(), count));
-    if (!(count != 0 ? _report.advance(count) : _report.finish())) {
+    const std::size_t count = source_.read(block_.data(), block_.size());
+    setBuffer(std::string_view(block_.data(), count));
+    if (!(count != 0 ? report_.advance(count) : report_.finish())) {
         throw std::runtime_error("the load was given up");
     }
     return count != 0;

@@ -20,15 +20,15 @@ public:
                         std::uint64_t total);
     ~ProgressInputStream() override;
 
-    [[nodiscard]] std::string description() const override { return _source.description(); }
+    [[nodiscard]] std::string description() const override { return source_.description(); }
 
 private:
     /// Throws std::runtime_error when the callback says to give up.
     bool refill() override;
 
-    corvane::utils::io::InputStream<char>& _source;
-    ProgressReport _report;
-    std::vector<char> _block;
+    corvane::utils::io::InputStream<char>& source_;
+    ProgressReport report_;
+    std::vector<char> block_;
 };
 
 } // namespace corvane::workbench::host

@@ -15,40 +15,40 @@ public:
     /// Where the total is not known (0), every thousandth step is reported.
     ProgressReport(const std::function<bool(const LoadProgress&)>& callback,
                    LoadProgress::Stage stage, std::uint64_t total)
-        : _callback(callback), _progress{stage, 0, total},
-          _step(total == 0 ? 1000 : std::max<std::uint64_t>(total / 100, 1)) {
-        _goOn = report();
+        : callback_(callback), progress_{stage, 0, total},
+          step_(total == 0 ? 1000 : std::max<std::uint64_t>(total / 100, 1)) {
+        goOn_ = report();
     }
 
     /// Counts on. False when the callback has said to give up.
     [[nodiscard]] bool advance(std::uint64_t count = 1) {
-        _progress.done += count;
-        if (_goOn && _progress.done >= _next) {
-            _goOn = report();
+        progress_.done += count;
+        if (goOn_ && progress_.done >= next_) {
+            goOn_ = report();
         }
-        return _goOn;
+        return goOn_;
     }
 
     /// Reports the end of the stage.
     [[nodiscard]] bool finish() {
-        if (_goOn) {
-            _progress.total = _progress.done;
-            _goOn = report();
+        if (goOn_) {
+            progress_.total = progress_.done;
+            goOn_ = report();
         }
-        return _goOn;
+        return goOn_;
     }
 
 private:
     [[nodiscard]] bool report() {
-        _next = _progress.done + _step;
-        return !_callback || _callback(_progress);
+        next_ = progress_.done + step_;
+        return !callback_ || callback_(progress_);
     }
 
-    const std::function<bool(const LoadProgress&)>& _callback;
-    LoadProgress _progress;
-    std::uint64_t _step;
-    std::uint64_t _next = 0;
-    bool _goOn = true;
+    const std::function<bool(const LoadProgress&)>& callback_;
+    LoadProgress progress_;
+    std::uint64_t step_;
+    std::uint64_t next_ = 0;
+    bool goOn_ = true;
 };
 
 } // namespace corvane::workbench::host

@@ -12,26 +12,26 @@
 namespace corvane::workbench::host {
 
 void ReferenceProxy::retire(std::string lastKey) noexcept {
-    _node = nullptr;
-    _lastKey = std::move(lastKey);
+    node_ = nullptr;
+    lastKey_ = std::move(lastKey);
 }
 
 tl::expected<std::reference_wrapper<model::Element>, std::wstring> ReferenceProxy::element() const {
-    if (_node == nullptr) {
-        const std::wstring key = corvane::utils::string::toWide(_lastKey);
+    if (node_ == nullptr) {
+        const std::wstring key = corvane::utils::string::toWide(lastKey_);
         return tl::unexpected(
             std::vformat(i18n::translate("corvane::workbench::host::ReferenceProxy",
                                          "the element “{}” does not exist"),
                          std::make_wformat_args(key)));
     }
-    return std::ref<model::Element>(*_node);
+    return std::ref<model::Element>(*node_);
 }
 
 model::internal::AbstractCrossReferenceProxy::Attachment*
 ReferenceProxy::attach(model::internal::BasicElementReference& reference) {
-    Registration& registration = _registrations.emplace_back();
+    Registration& registration = registrations_.emplace_back();
     registration.reference = &reference;
-    registration.position = std::prev(_registrations.end());
+    registration.position = std::prev(registrations_.end());
     return &registration;
 }
 
@@ -40,11 +40,11 @@ void ReferenceProxy::detach(Attachment* token) noexcept {
     if (registration->updates != nullptr) {
         registration->updates->forget(registration->updateIndex);
     }
-    _registrations.erase(registration->position);
+    registrations_.erase(registration->position);
 }
 
 std::string ReferenceProxy::primaryKey() const {
-    return _node != nullptr ? _node->primaryKey() : _lastKey;
+    return node_ != nullptr ? node_->primaryKey() : lastKey_;
 }
 
 void ReferenceProxy::save(corvane::utils::json::encoder::Value& value, std::string_view suffix,

@@ -24,22 +24,22 @@ public:
         std::size_t updateIndex = 0;
     };
 
-    explicit ReferenceProxy(ElementNode& node) noexcept : _node(&node) {}
+    explicit ReferenceProxy(ElementNode& node) noexcept : node_(&node) {}
     ReferenceProxy(const ReferenceProxy&) = delete;
     ReferenceProxy& operator=(const ReferenceProxy&) = delete;
     ~ReferenceProxy() override = default;
 
     /// The element, or null after it has ended.
-    [[nodiscard]] ElementNode* node() const noexcept { return _node; }
+    [[nodiscard]] ElementNode* node() const noexcept { return node_; }
     /// The element is about to end; its last key stays.
     void retire(std::string lastKey) noexcept;
 
     /// Oldest first.
-    [[nodiscard]] std::list<Registration>& registrations() noexcept { return _registrations; }
+    [[nodiscard]] std::list<Registration>& registrations() noexcept { return registrations_; }
 
     [[nodiscard]] tl::expected<std::reference_wrapper<model::Element>, std::wstring>
     element() const override;
-    [[nodiscard]] std::size_t referenceCount() const override { return _registrations.size(); }
+    [[nodiscard]] std::size_t referenceCount() const override { return registrations_.size(); }
     [[nodiscard]] Attachment* attach(model::internal::BasicElementReference& reference) override;
     void detach(Attachment* token) noexcept override;
     [[nodiscard]] std::string primaryKey() const override;
@@ -47,9 +47,9 @@ public:
               std::optional<std::string_view> memberName) const override;
 
 private:
-    ElementNode* _node;
-    std::string _lastKey;
-    std::list<Registration> _registrations;
+    ElementNode* node_;
+    std::string lastKey_;
+    std::list<Registration> registrations_;
 };
 
 } // namespace corvane::workbench::host

@@ -26,7 +26,7 @@ void guarded(std::exception_ptr& firstFailure, Call&& call) {
 } // namespace
 
 ReferenceUpdates::~ReferenceUpdates() {
-    for (const Entry& entry : _entries) {
+    for (const Entry& entry : entries_) {
         if (entry.registration != nullptr) {
             entry.registration->updates = nullptr;
         }
@@ -34,12 +34,12 @@ ReferenceUpdates::~ReferenceUpdates() {
 }
 
 void ReferenceUpdates::collect(ReferenceProxy::Registration& registration, Key key) {
-    _entries.push_back({&registration, key, resolution(*registration.reference)});
-    bind(_entries.size() - 1, registration);
+    entries_.push_back({&registration, key, resolution(*registration.reference)});
+    bind(entries_.size() - 1, registration);
 }
 
 model::internal::BasicElementReference* ReferenceUpdates::reference(std::size_t index) const {
-    const ReferenceProxy::Registration* registration = _entries[index].registration;
+    const ReferenceProxy::Registration* registration = entries_[index].registration;
     return registration != nullptr ? registration->reference : nullptr;
 }
 
@@ -59,8 +59,8 @@ void ReferenceUpdates::redirect(std::size_t index, const std::shared_ptr<Referen
 void ReferenceUpdates::announce(std::span<Observer* const> observers,
                                 std::exception_ptr& firstFailure) {
     // By index: what is called may make references drop out, but never adds entries.
-    for (std::size_t index = 0; index < _entries.size(); ++index) {
-        if (_entries[index].key == Key::Changes) {
+    for (std::size_t index = 0; index < entries_.size(); ++index) {
+        if (entries_[index].key == Key::Changes) {
             for (Observer* observer : observers) {
                 guarded(firstFailure, [&] {
                     if (const auto* changed = reference(index)) {
@@ -75,7 +75,7 @@ void ReferenceUpdates::announce(std::span<Observer* const> observers,
             });
         }
         const auto* resolved = reference(index);
-        if (resolved == nullptr || resolution(*resolved) == _entries[index].before) {
+        if (resolved == nullptr || resolution(*resolved) == entries_[index].before) {
             continue;
         }
         for (Observer* observer : observers) {
@@ -105,7 +105,7 @@ ReferenceUpdates::resolution(const model::internal::BasicElementReference& refer
 
 void ReferenceUpdates::bind(std::size_t index,
                             ReferenceProxy::Registration& registration) noexcept {
-    _entries[index].registration = &registration;
+    entries_[index].registration = &registration;
     registration.updates = this;
     registration.updateIndex = index;
 }

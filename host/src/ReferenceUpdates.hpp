@@ -35,7 +35,7 @@ public:
     /// Takes in a reference as it resolves now, and says whether the edit changes its key. It must
     /// not be part of other updates.
     void collect(ReferenceProxy::Registration& registration, Key key);
-    [[nodiscard]] std::size_t size() const noexcept { return _entries.size(); }
+    [[nodiscard]] std::size_t size() const noexcept { return entries_.size(); }
     /// Null for one that has dropped out.
     [[nodiscard]] model::internal::BasicElementReference* reference(std::size_t index) const;
     /// Points a reference at another proxy; it stays part of the updates.
@@ -47,7 +47,7 @@ public:
     void announce(std::span<Observer* const> observers, std::exception_ptr& firstFailure);
 
     /// Called by the proxy when a registration ends.
-    void forget(std::size_t index) noexcept { _entries[index].registration = nullptr; }
+    void forget(std::size_t index) noexcept { entries_[index].registration = nullptr; }
 
 private:
     /// What a reference leads to. The message is empty when it resolves.
@@ -66,7 +66,7 @@ private:
     resolution(const model::internal::BasicElementReference& reference);
     void bind(std::size_t index, ReferenceProxy::Registration& registration) noexcept;
 
-    std::vector<Entry> _entries;
+    std::vector<Entry> entries_;
 };
 
 } // namespace corvane::workbench::host

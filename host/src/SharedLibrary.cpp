@@ -16,7 +16,7 @@
 namespace corvane::workbench::host {
 
 SharedLibrary::SharedLibrary(SharedLibrary&& other) noexcept
-    : _handle(std::exchange(other._handle, nullptr)), _kept(other._kept) {}
+    : handle_(std::exchange(other.handle_, nullptr)), kept_(other.kept_) {}
 
 #ifdef _WIN32
 
@@ -38,8 +38,8 @@ SharedLibrary::open(const std::filesystem::path& absolutePath) {
 }
 
 SharedLibrary::~SharedLibrary() {
-    if (_handle != nullptr && !_kept) {
-        FreeLibrary(static_cast<HMODULE>(_handle));
+    if (handle_ != nullptr && !kept_) {
+        FreeLibrary(static_cast<HMODULE>(handle_));
     }
 }
 
@@ -62,8 +62,8 @@ SharedLibrary::open(const std::filesystem::path& absolutePath) {
 }
 
 SharedLibrary::~SharedLibrary() {
-    if (_handle != nullptr && !_kept) {
-        dlclose(_handle);
+    if (handle_ != nullptr && !kept_) {
+        dlclose(handle_);
     }
 }
 

@@ -20,15 +20,15 @@ public:
     ~SharedLibrary();
 
     /// The same for every loading of the same library.
-    [[nodiscard]] const void* handle() const noexcept { return _handle; }
+    [[nodiscard]] const void* handle() const noexcept { return handle_; }
     /// Leaves the library loaded until the process ends.
-    void keepLoaded() noexcept { _kept = true; }
+    void keepLoaded() noexcept { kept_ = true; }
 
 private:
-    explicit SharedLibrary(void* handle) noexcept : _handle(handle) {}
+    explicit SharedLibrary(void* handle) noexcept : handle_(handle) {}
 
-    void* _handle;
-    bool _kept = false;
+    void* handle_;
+    bool kept_ = false;
 };
 
 } // namespace corvane::workbench::host

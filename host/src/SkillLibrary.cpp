@@ -56,7 +56,7 @@ std::optional<Problem> checkFile(const std::filesystem::path& path) {
 } // namespace
 
 SkillLibrary::SkillLibrary(std::filesystem::path path, SkillClasses skillClasses)
-    : _path(std::move(path)), _skillClasses(std::move(skillClasses)) {}
+    : path_(std::move(path)), skillClasses_(std::move(skillClasses)) {}
 
 Result<SkillLibrary> SkillLibrary::open(const std::filesystem::path& path) {
     if (auto failure = checkFile(path)) {

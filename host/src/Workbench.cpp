@@ -77,7 +77,7 @@ std::string freeName(const ElementNode& parent, std::string name) {
 
 } // namespace
 
-Workbench::Workbench() : _state(std::make_unique<State>()) {}
+Workbench::Workbench() : state_(std::make_unique<State>()) {}
 Workbench::~Workbench() = default;
 
 Result<void> Workbench::loadSkills(const std::filesystem::path& library) {
@@ -85,25 +85,25 @@ Result<void> Workbench::loadSkills(const std::filesystem::path& library) {
     if (!opened) {
         return tl::unexpected(std::move(opened).error());
     }
-    return _state->addSkills(opened->skillClasses(), opened->path());
+    return state_->addSkills(opened->skillClasses(), opened->path());
 }
 
 Result<void> Workbench::addSkill(const skill::Skill::Class& skillClass) {
     const std::reference_wrapper<const skill::Skill::Class> added[] = {skillClass};
-    return _state->addSkills(added, {});
+    return state_->addSkills(added, {});
 }
 
 std::span<const std::unique_ptr<LoadedSkill>> Workbench::skills() const noexcept {
-    return _state->skills;
+    return state_->skills;
 }
 
 const ElementClassRegistry& Workbench::elementClasses() const noexcept {
-    return _state->classes;
+    return state_->classes;
 }
 
 LoadResult Workbench::loadConfiguration(const std::filesystem::path& file,
                                         const LoadOptions& options) {
-    if (_state->editing()) {
+    if (state_->editing()) {
         return {false, {refuseNested().value()}};
     }
     try {
@@ -123,16 +123,16 @@ LoadResult Workbench::loadConfiguration(const std::filesystem::path& file,
 LoadResult Workbench::loadConfiguration(corvane::utils::io::InputStream<char>& stream,
                                         const std::filesystem::path& file,
                                         const LoadOptions& options) {
-    if (_state->editing()) {
+    if (state_->editing()) {
         return {false, {refuseNested().value()}};
     }
-    return _state->load(stream, file, options);
+    return state_->load(stream, file, options);
 }
 
 Result<void> Workbench::saveConfiguration(const std::filesystem::path& file) const {
     try {
         corvane::utils::io::FileOutputStream stream(file);
-        writeConfiguration(_state->tree.root(), stream);
+        writeConfiguration(state_->tree.root(), stream);
         stream.close();
         return {};
     } catch (const std::exception& exception) {
@@ -142,7 +142,7 @@ Result<void> Workbench::saveConfiguration(const std::filesystem::path& file) con
 
 Result<void> Workbench::saveConfiguration(corvane::utils::io::OutputStream<char>& stream) const {
     try {
-        writeConfiguration(_state->tree.root(), stream);
+        writeConfiguration(state_->tree.root(), stream);
         return {};
     } catch (const std::exception& exception) {
         return refuse(exception.what());
@@ -150,22 +150,22 @@ Result<void> Workbench::saveConfiguration(corvane::utils::io::OutputStream<char>
 }
 
 ElementNode& Workbench::root() noexcept {
-    return _state->tree.root();
+    return state_->tree.root();
 }
 const ElementNode& Workbench::root() const noexcept {
-    return _state->tree.root();
+    return state_->tree.root();
 }
 
 ElementNode* Workbench::findElement(std::string_view key) const {
-    return _state->tree.find(key);
+    return state_->tree.find(key);
 }
 
 ElementNode* Workbench::findElement(const corvane::utils::core::Uuid& uuid) const {
-    return _state->tree.find(uuid);
+    return state_->tree.find(uuid);
 }
 
 std::size_t Workbench::elementCount() const noexcept {
-    return _state->tree.elementCount();
+    return state_->tree.elementCount();
 }
 
 void Workbench::forEachPropertyProblem(
@@ -176,15 +176,15 @@ void Workbench::forEachPropertyProblem(
 
 Result<ElementNode*> Workbench::add(std::string_view parentKey, std::string_view elementClassId,
                                     std::string_view name) {
-    if (_state->editing()) {
+    if (state_->editing()) {
         return refuseNested();
     }
-    ElementTree& tree = _state->tree;
+    ElementTree& tree = state_->tree;
     ElementNode* parent = tree.find(parentKey);
     if (parent == nullptr) {
         return refuse(noSuchElement(parentKey));
     }
-    const skill::Element::Class* elementClass = _state->classes.find(elementClassId);
+    const skill::Element::Class* elementClass = state_->classes.find(elementClassId);
     if (elementClass == nullptr) {
         return refuse("unknown element class " + inQuotes(elementClassId));
     }
@@ -200,13 +200,13 @@ Result<ElementNode*> Workbench::add(std::string_view parentKey, std::string_view
         return refuse(valid.error());
     }
 
-    State::Edit edit(*_state);
+    State::Edit edit(*state_);
     std::unique_ptr<ElementNode> created =
         tree.makeNode(*parent, *elementClass, std::move(ownName));
     ElementNode& node = *created;
-    _state->collectConcerned(*parent, node.name(), edit.references);
+    state_->collectConcerned(*parent, node.name(), edit.references);
     tree.insert(*parent, std::move(created));
-    _state->resolveWaiting(node, edit.references, 0);
+    state_->resolveWaiting(node, edit.references, 0);
     edit.guarded(
         [&] { node.properties().setEnclosingPropertyContainer(parent->properties(), {}); });
     edit.tellObservers([&](Observer& observer) { observer.elementAdded(node); });
@@ -216,10 +216,10 @@ Result<ElementNode*> Workbench::add(std::string_view parentKey, std::string_view
 }
 
 Result<void> Workbench::rename(std::string_view key, std::string_view newName) {
-    if (_state->editing()) {
+    if (state_->editing()) {
         return refuseNested();
     }
-    ElementTree& tree = _state->tree;
+    ElementTree& tree = state_->tree;
     ElementNode* node = tree.find(key);
     if (node == nullptr || node->isInvisibleRoot()) {
         return refuse(node == nullptr ? noSuchElement(key) : "the root has no name");
@@ -232,15 +232,15 @@ Result<void> Workbench::rename(std::string_view key, std::string_view newName) {
         return refuse(valid.error());
     }
 
-    State::Edit edit(*_state);
+    State::Edit edit(*state_);
     const std::string oldKey = node->primaryKey();
     const std::string oldName(node->name());
-    _state->collectBelow(*node, ReferenceUpdates::Key::Changes, edit.references);
+    state_->collectBelow(*node, ReferenceUpdates::Key::Changes, edit.references);
     const std::size_t firstConcerned = edit.references.size();
-    _state->collectConcerned(parent, oldName, edit.references);
-    _state->collectConcerned(parent, newName, edit.references);
+    state_->collectConcerned(parent, oldName, edit.references);
+    state_->collectConcerned(parent, newName, edit.references);
     tree.rename(*node, std::string(newName));
-    _state->resolveWaiting(*node, edit.references, firstConcerned);
+    state_->resolveWaiting(*node, edit.references, firstConcerned);
     edit.tellObservers([&](Observer& observer) { observer.elementRenamed(*node, oldKey); });
     edit.announceReferences();
     edit.finish();
@@ -248,10 +248,10 @@ Result<void> Workbench::rename(std::string_view key, std::string_view newName) {
 }
 
 Result<void> Workbench::move(std::string_view key, std::string_view newParentKey) {
-    if (_state->editing()) {
+    if (state_->editing()) {
         return refuseNested();
     }
-    ElementTree& tree = _state->tree;
+    ElementTree& tree = state_->tree;
     ElementNode* node = tree.find(key);
     if (node == nullptr || node->isInvisibleRoot()) {
         return refuse(node == nullptr ? noSuchElement(key) : "the root cannot be moved");
@@ -276,14 +276,14 @@ Result<void> Workbench::move(std::string_view key, std::string_view newParentKey
         return refuse(nameTaken(*parent, node->name()));
     }
 
-    State::Edit edit(*_state);
+    State::Edit edit(*state_);
     const std::string oldKey = node->primaryKey();
-    _state->collectBelow(*node, ReferenceUpdates::Key::Changes, edit.references);
+    state_->collectBelow(*node, ReferenceUpdates::Key::Changes, edit.references);
     const std::size_t firstConcerned = edit.references.size();
-    _state->collectConcerned(*node->parent(), node->name(), edit.references);
-    _state->collectConcerned(*parent, node->name(), edit.references);
+    state_->collectConcerned(*node->parent(), node->name(), edit.references);
+    state_->collectConcerned(*parent, node->name(), edit.references);
     tree.insert(*parent, tree.extract(*node));
-    _state->resolveWaiting(*node, edit.references, firstConcerned);
+    state_->resolveWaiting(*node, edit.references, firstConcerned);
     edit.guarded(
         [&] { node->properties().setEnclosingPropertyContainer(parent->properties(), {}); });
     edit.tellObservers([&](Observer& observer) { observer.elementMoved(*node, oldKey); });
@@ -293,22 +293,22 @@ Result<void> Workbench::move(std::string_view key, std::string_view newParentKey
 }
 
 Result<void> Workbench::remove(std::string_view key) {
-    if (_state->editing()) {
+    if (state_->editing()) {
         return refuseNested();
     }
-    ElementTree& tree = _state->tree;
+    ElementTree& tree = state_->tree;
     ElementNode* node = tree.find(key);
     if (node == nullptr || node->isInvisibleRoot()) {
         return refuse(node == nullptr ? noSuchElement(key) : "the root cannot be removed");
     }
 
-    State::Edit edit(*_state);
+    State::Edit edit(*state_);
     ElementNode& parent = *node->parent();
     const std::string oldKey = node->primaryKey();
     edit.tellObservers([&](Observer& observer) { observer.elementRemoving(*node); });
-    _state->collectBelow(*node, ReferenceUpdates::Key::Stays, edit.references);
+    state_->collectBelow(*node, ReferenceUpdates::Key::Stays, edit.references);
     const std::size_t firstConcerned = edit.references.size();
-    _state->collectConcerned(parent, node->name(), edit.references);
+    state_->collectConcerned(parent, node->name(), edit.references);
 
     ElementTree::retireProxies(*node);
     tree.releaseUuids(*node);
@@ -335,7 +335,7 @@ Result<void> Workbench::remove(std::string_view key) {
 
 Result<void> Workbench::setReference(const skill::EditableProperty& property,
                                      std::string_view key) {
-    if (_state->editing()) {
+    if (state_->editing()) {
         return refuseNested();
     }
     BasicElementReference* reference = nullptr;
@@ -360,11 +360,11 @@ Result<void> Workbench::setReference(const skill::EditableProperty& property,
 }
 
 model::internal::ElementReferenceData Workbench::elementReferenceData(std::string_view key) const {
-    return host::elementReferenceData(_state->tree, key, ImportKeys::Keep);
+    return host::elementReferenceData(state_->tree, key, ImportKeys::Keep);
 }
 
 model::internal::ElementReferenceData Workbench::memberReferenceData(std::string_view key) const {
-    return host::memberReferenceData(_state->tree, key, ImportKeys::Keep);
+    return host::memberReferenceData(state_->tree, key, ImportKeys::Keep);
 }
 
 std::vector<ReferenceUse> Workbench::referencesTo(const ElementNode& element) const {
@@ -391,11 +391,11 @@ const ElementNode* Workbench::ownerOf(const BasicElementReference& reference) co
 }
 
 void Workbench::addObserver(Observer& observer) {
-    _state->observers.push_back(&observer);
+    state_->observers.push_back(&observer);
 }
 
 void Workbench::removeObserver(Observer& observer) noexcept {
-    std::erase(_state->observers, &observer);
+    std::erase(state_->observers, &observer);
 }
 
 } // namespace corvane::workbench::host

@@ -247,8 +247,8 @@ void Workbench::State::membersPublished(ElementNode& node) {
     }
     if (const auto proxy = ElementTree::existingProxy(node)) {
         // The references of an edit under way are told in their turn.
-        if (_editing) {
-            _changedMembers.push_back(proxy);
+        if (editing_) {
+            changedMembers_.push_back(proxy);
         } else {
             guarded([&] { membersChanged(proxy); });
         }

@@ -27,56 +27,56 @@ public:
     /// what goes wrong on the way.
     class Edit {
     public:
-        explicit Edit(State& state) : _state(state) { _state._editing = true; }
+        explicit Edit(State& state) : state_(state) { state_.editing_ = true; }
         Edit(const Edit&) = delete;
         Edit& operator=(const Edit&) = delete;
-        ~Edit() { _state._editing = false; }
+        ~Edit() { state_.editing_ = false; }
 
         template <class Call>
         void guarded(Call&& call) {
             try {
                 call();
             } catch (...) {
-                if (!_firstFailure) {
-                    _firstFailure = std::current_exception();
+                if (!firstFailure_) {
+                    firstFailure_ = std::current_exception();
                 }
             }
         }
         template <class Call>
         void tellObservers(Call&& call) {
-            const std::vector<Observer*> told = _state.observers;
+            const std::vector<Observer*> told = state_.observers;
             for (Observer* observer : told) {
                 guarded([&] { call(*observer); });
             }
         }
         void announceReferences() {
-            const std::vector<Observer*> told = _state.observers;
-            references.announce(told, _firstFailure);
+            const std::vector<Observer*> told = state_.observers;
+            references.announce(told, firstFailure_);
         }
         /// Ends the edit; throws what was thrown first.
         void finish() {
-            _state._editing = false;
-            const auto changed = std::exchange(_state._changedMembers, {});
+            state_.editing_ = false;
+            const auto changed = std::exchange(state_.changedMembers_, {});
             for (const std::weak_ptr<ReferenceProxy>& proxy : changed) {
-                guarded([&] { _state.membersChanged(proxy.lock()); });
+                guarded([&] { state_.membersChanged(proxy.lock()); });
             }
-            if (_firstFailure) {
-                std::rethrow_exception(_firstFailure);
+            if (firstFailure_) {
+                std::rethrow_exception(firstFailure_);
             }
         }
 
         ReferenceUpdates references;
 
     private:
-        State& _state;
-        std::exception_ptr _firstFailure;
+        State& state_;
+        std::exception_ptr firstFailure_;
     };
 
     State() {
         tree.onMembersPublished([this](ElementNode& node) { membersPublished(node); });
     }
 
-    [[nodiscard]] bool editing() const noexcept { return _editing; }
+    [[nodiscard]] bool editing() const noexcept { return editing_; }
 
     Result<void> addSkills(std::span<const std::reference_wrapper<const skill::Skill::Class>> added,
                            const std::filesystem::path& library);
@@ -107,9 +107,9 @@ private:
                             ElementTree& staging, std::vector<Problem>& problems);
     void replaceTree(ElementTree& staging);
 
-    bool _editing = false;
+    bool editing_ = false;
     // Published while an edit was under way.
-    std::vector<std::weak_ptr<ReferenceProxy>> _changedMembers;
+    std::vector<std::weak_ptr<ReferenceProxy>> changedMembers_;
 };
 
 } // namespace corvane::workbench::host

@@ -13,26 +13,26 @@ constexpr std::uint32_t kNone = std::numeric_limits<std::uint32_t>::max();
 class Adjacency {
 public:
     Adjacency(std::size_t nodeCount, std::span<const CircleEdge> edges)
-        : _begin(nodeCount + 1, 0), _edges(edges.size()) {
+        : begin_(nodeCount + 1, 0), edges_(edges.size()) {
         for (const CircleEdge& edge : edges) {
-            ++_begin[edge.from + 1];
+            ++begin_[edge.from + 1];
         }
         for (std::size_t node = 0; node < nodeCount; ++node) {
-            _begin[node + 1] += _begin[node];
+            begin_[node + 1] += begin_[node];
         }
-        std::vector<std::size_t> next(_begin.begin(), _begin.end() - 1);
+        std::vector<std::size_t> next(begin_.begin(), begin_.end() - 1);
         for (std::size_t index = 0; index < edges.size(); ++index) {
-            _edges[next[edges[index].from]++] = index;
+            edges_[next[edges[index].from]++] = index;
         }
     }
 
     [[nodiscard]] std::span<const std::size_t> of(std::uint32_t node) const {
-        return std::span(_edges).subspan(_begin[node], _begin[node + 1] - _begin[node]);
+        return std::span(edges_).subspan(begin_[node], begin_[node + 1] - begin_[node]);
     }
 
 private:
-    std::vector<std::size_t> _begin;
-    std::vector<std::size_t> _edges;
+    std::vector<std::size_t> begin_;
+    std::vector<std::size_t> edges_;
 };
 
 /// Tarjan's algorithm with a stack of its own: numbers the groups and gives each node its group.

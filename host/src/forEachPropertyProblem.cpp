@@ -16,7 +16,7 @@ public:
     using Callback = corvane::utils::core::function_ref<void(const PropertyProblem&)>;
 
     PropertyProblemWalk(const ElementNode& element, Callback callback)
-        : _element(element), _callback(callback) {}
+        : element_(element), callback_(callback) {}
 
     void visit(const skill::EditableProperty& property, const std::string& path,
                const std::wstring& displayPath) {
@@ -26,7 +26,7 @@ public:
         const std::string ownPath = path + property.name;
         const std::wstring ownDisplayPath = displayPath + property.displayName;
         if (const auto& state = property.property.state(); !state) {
-            _callback({&_element, property.property, ownPath, ownDisplayPath, state.error()});
+            callback_({&element_, property.property, ownPath, ownDisplayPath, state.error()});
         }
         if (!property.forEachSubElement) {
             return;
@@ -46,8 +46,8 @@ public:
     }
 
 private:
-    const ElementNode& _element;
-    Callback _callback;
+    const ElementNode& element_;
+    Callback callback_;
 };
 
 } // namespace

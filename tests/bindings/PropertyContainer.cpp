@@ -56,8 +56,10 @@ template struct PrivateMember<EnclosingField, &PropertyContainer::enclosingPrope
 template struct PrivateMember<CountField, &PropertyContainer::subContainerPropertyErrorCount_>;
 template struct PrivateMember<SubscriptionsField, &PropertyContainer::errorCountSubscriptions_>;
 template struct PrivateMember<SetCount, &PropertyContainer::setSubContainerPropertyErrorCount>;
-template struct PrivateMember<AdjustCount, &PropertyContainer::adjustSubContainerPropertyErrorCount>;
-template struct PrivateMember<UpdateCount, &PropertyContainer::updateSubContainerPropertyErrorCount>;
+template struct PrivateMember<AdjustCount,
+                              &PropertyContainer::adjustSubContainerPropertyErrorCount>;
+template struct PrivateMember<UpdateCount,
+                              &PropertyContainer::updateSubContainerPropertyErrorCount>;
 template struct PrivateMember<ErrorCountChanged, &PropertyContainer::propertyErrorCountChanged>;
 template struct PrivateMember<ForEachSub, &PropertyContainer::forEachSubPropertyContainer>;
 template struct PrivateMember<ForEachReference, &PropertyContainer::forEachLocalCrossReference>;
@@ -75,7 +77,8 @@ static_assert(std::has_virtual_destructor_v<PropertyContainer>);
 static_assert(std::is_aggregate_v<Options>);
 static_assert(!Options{}.reservedFlag && !Options{}.keepNewContainerCount &&
               !Options{}.keepOldContainerCount);
-static_assert(!PropertyContainer::SubPropertyContainerListChangedOptions{}.updateEnclosingContainers);
+static_assert(
+    !PropertyContainer::SubPropertyContainerListChangedOptions{}.updateEnclosingContainers);
 static_assert(!PropertyContainer::ForEachCrossReferenceOptions{}.recursive &&
               !PropertyContainer::ForEachCrossReferenceOptions{}.includeInvisible);
 

@@ -56,22 +56,22 @@ std::vector<Command> commandsOf(const std::filesystem::path& guide) {
 class GuideCommands : public ::testing::Test {
 protected:
     GuideCommands() : commands(commandsOf(GUIDES_FOLDER "/writing-a-skill.md")) {
-        std::filesystem::remove_all(_folder);
-        std::filesystem::create_directories(_folder / "examples/first-skill");
-        std::filesystem::copy(FIRST_SKILL_CONFIGURATION, _folder / "examples/first-skill");
-        std::filesystem::current_path(_folder);
+        std::filesystem::remove_all(folder_);
+        std::filesystem::create_directories(folder_ / "examples/first-skill");
+        std::filesystem::copy(FIRST_SKILL_CONFIGURATION, folder_ / "examples/first-skill");
+        std::filesystem::current_path(folder_);
     }
     ~GuideCommands() override {
         std::error_code ignored;
-        std::filesystem::current_path(_before, ignored);
-        std::filesystem::remove_all(_folder, ignored);
+        std::filesystem::current_path(before_, ignored);
+        std::filesystem::remove_all(folder_, ignored);
     }
 
     std::vector<Command> commands;
 
 private:
-    std::filesystem::path _before = std::filesystem::current_path();
-    std::filesystem::path _folder =
+    std::filesystem::path before_ = std::filesystem::current_path();
+    std::filesystem::path folder_ =
         std::filesystem::temp_directory_path() / "corvane-first-skill-guide";
 };
 

@@ -122,11 +122,11 @@ const PropertyKey kVolume;
 
 class Tank final : public PropertyController {
 public:
-    explicit Tank(bool namesEverything) : _namesEverything(namesEverything) {}
+    explicit Tank(bool namesEverything) : namesEverything_(namesEverything) {}
 
 private:
     void configureProperties(PropertyConfigurationContext& context) override {
-        if (_namesEverything) {
+        if (namesEverything_) {
             context.configure(kArea, {.valueDependencies = {kDiameter}});
             context.configure(kVolume, {.valueDependencies = {kDiameter, kHeight}});
         } else {
@@ -135,7 +135,7 @@ private:
         }
     }
 
-    bool _namesEverything;
+    bool namesEverything_;
 };
 
 std::vector<std::string> whatHearsOfTheDiameter(bool namesEverything) {

@@ -260,7 +260,7 @@ public:
 
     explicit Listener(AttributeReference reference) : source(std::move(reference)) {
         EXPECT_EQ(propertyErrorCount(), source.attribute() ? 0U : 1U);
-        _subscription = subscribe(source.propertyId(), {.value = [this] { hear("value"); },
+        subscription_ = subscribe(source.propertyId(), {.value = [this] { hear("value"); },
                                                         .state = [this] { hear("state"); }});
     }
     Listener(const Listener&) = delete;
@@ -280,7 +280,7 @@ private:
         heard.push_back(std::string(what) + " " + source.primaryKey());
     }
 
-    Subscription _subscription;
+    Subscription subscription_;
 };
 
 TEST_F(ReferencesGuide, ARenameChangesTheKeyAndARemovalTheState) {

@@ -46,30 +46,30 @@ class TestElementClass final : public skill::Element::Class {
 public:
     TestElementClass(std::string id, std::uint8_t number, ElementCategory category,
                      bool acceptsChildren)
-        : _id(std::move(id)), _number(number), _category(category),
-          _acceptsChildren(acceptsChildren) {}
+        : id_(std::move(id)), number_(number), category_(category),
+          acceptsChildren_(acceptsChildren) {}
 
-    [[nodiscard]] std::string_view id() const override { return _id; }
+    [[nodiscard]] std::string_view id() const override { return id_; }
     [[nodiscard]] corvane::utils::core::Uuid uuid() const override {
         corvane::utils::core::Uuid::Bytes bytes{};
-        bytes.back() = _number;
+        bytes.back() = number_;
         return corvane::utils::core::Uuid(bytes);
     }
     [[nodiscard]] std::wstring displayName() const override {
-        return L"Test " + corvane::utils::string::toWide(_id);
+        return L"Test " + corvane::utils::string::toWide(id_);
     }
     [[nodiscard]] std::wstring description() const override { return L"For tests."; }
-    [[nodiscard]] ElementCategory category() const override { return _category; }
-    [[nodiscard]] const skill::AbstractElementFactory& factory() const override { return _factory; }
-    [[nodiscard]] bool allowChildElement(const Class&) const override { return _acceptsChildren; }
-    [[nodiscard]] std::string defaultName() const override { return _id; }
+    [[nodiscard]] ElementCategory category() const override { return category_; }
+    [[nodiscard]] const skill::AbstractElementFactory& factory() const override { return factory_; }
+    [[nodiscard]] bool allowChildElement(const Class&) const override { return acceptsChildren_; }
+    [[nodiscard]] std::string defaultName() const override { return id_; }
 
 private:
-    std::string _id;
-    std::uint8_t _number;
-    ElementCategory _category;
-    bool _acceptsChildren;
-    Factory<E> _factory;
+    std::string id_;
+    std::uint8_t number_;
+    ElementCategory category_;
+    bool acceptsChildren_;
+    Factory<E> factory_;
 };
 
 class TestSkillInstance final : public skill::Skill {};
@@ -80,20 +80,20 @@ public:
     [[nodiscard]] std::wstring displayName() const override { return L"Test skill"; }
     [[nodiscard]] std::string_view version() const override { return "1.0"; }
     void registerElementClasses(Registry& registry) const override {
-        registry.registerElementClass(_group);
-        registry.registerElementClass(_leaf);
-        registry.registerElementClass(_point);
-        registry.registerElementClass(_custom);
+        registry.registerElementClass(group_);
+        registry.registerElementClass(leaf_);
+        registry.registerElementClass(point_);
+        registry.registerElementClass(custom_);
     }
     [[nodiscard]] std::unique_ptr<skill::Skill> createSkill() const override {
         return std::make_unique<TestSkillInstance>();
     }
 
 private:
-    TestElementClass<PlainElement> _group{"group", 1, ElementCategory::ElementGroup, true};
-    TestElementClass<PlainElement> _leaf{"leaf", 2, ElementCategory::DataPoint, false};
-    TestElementClass<TestPoint> _point{"point", 3, ElementCategory::DataPoint, true};
-    TestElementClass<PlainElement> _custom{"custom", 4, ElementCategory::CustomElement, true};
+    TestElementClass<PlainElement> group_{"group", 1, ElementCategory::ElementGroup, true};
+    TestElementClass<PlainElement> leaf_{"leaf", 2, ElementCategory::DataPoint, false};
+    TestElementClass<TestPoint> point_{"point", 3, ElementCategory::DataPoint, true};
+    TestElementClass<PlainElement> custom_{"custom", 4, ElementCategory::CustomElement, true};
 };
 
 template <class Result>
@@ -203,7 +203,7 @@ void TestPoint::setLimit(std::int64_t newLimit) {
 }
 
 void TestPoint::renameAttribute(std::string name) {
-    _attributeName = std::move(name);
+    attributeName_ = std::move(name);
     publishElementMembers();
 }
 
@@ -297,7 +297,7 @@ void TestPoint::makeDefault() {
 
 bool TestPoint::forEachAttribute(
     const corvane::utils::core::function_ref<bool(const model::Attribute&)>& callback) const {
-    return callback(model::Attribute(std::string(_attributeName),
+    return callback(model::Attribute(std::string(attributeName_),
                                      model::Attribute::Access::ReadWrite,
                                      workbench::data::DataType{4, 8}, {}));
 }

@@ -114,7 +114,7 @@ private:
     bool forEachTask(const corvane::utils::core::function_ref<bool(const process::Task&)>& callback)
         const override;
 
-    std::string _attributeName = "value";
+    std::string attributeName_ = "value";
 };
 
 } // namespace corvane::tests

@@ -116,22 +116,22 @@ public:
     TemporaryFolder() {
         static std::atomic<int> count = 0;
         const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        _path = std::filesystem::temp_directory_path() /
+        path_ = std::filesystem::temp_directory_path() /
                 (std::string("corvane-host-") + test->name() + "-" + std::to_string(count++));
-        std::filesystem::remove_all(_path);
-        std::filesystem::create_directories(_path);
+        std::filesystem::remove_all(path_);
+        std::filesystem::create_directories(path_);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
         std::error_code ignored;
-        std::filesystem::remove_all(_path, ignored);
+        std::filesystem::remove_all(path_, ignored);
     }
 
-    [[nodiscard]] const std::filesystem::path& path() const { return _path; }
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
     /// Writes a file and returns its path.
     std::filesystem::path write(std::string_view name, std::string_view text) const {
-        const auto file = _path / name;
+        const auto file = path_ / name;
         std::ofstream(file, std::ios::binary) << text;
         return file;
     }
@@ -141,7 +141,7 @@ public:
     }
 
 private:
-    std::filesystem::path _path;
+    std::filesystem::path path_;
 };
 
 } // namespace corvane::tests

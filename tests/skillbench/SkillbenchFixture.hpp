@@ -44,19 +44,19 @@ struct Outcome {
 /// the expected texts.
 class SkillbenchTest : public testing::Test {
 protected:
-    SkillbenchTest() : _before(std::filesystem::current_path()) {
+    SkillbenchTest() : before_(std::filesystem::current_path()) {
         const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        _folder =
+        folder_ =
             std::filesystem::temp_directory_path() /
             (std::string("corvane-skillbench-") + test->test_suite_name() + "-" + test->name());
-        std::filesystem::remove_all(_folder);
-        std::filesystem::create_directories(_folder);
-        std::filesystem::current_path(_folder);
+        std::filesystem::remove_all(folder_);
+        std::filesystem::create_directories(folder_);
+        std::filesystem::current_path(folder_);
     }
     ~SkillbenchTest() override {
         std::error_code ignored;
-        std::filesystem::current_path(_before, ignored);
-        std::filesystem::remove_all(_folder, ignored);
+        std::filesystem::current_path(before_, ignored);
+        std::filesystem::remove_all(folder_, ignored);
     }
 
     static void write(std::string_view name, std::string_view text) {
@@ -93,8 +93,8 @@ protected:
     }
 
 private:
-    std::filesystem::path _before;
-    std::filesystem::path _folder;
+    std::filesystem::path before_;
+    std::filesystem::path folder_;
 };
 
 } // namespace corvane::skillbench::test

@@ -35,7 +35,7 @@ public:
             if (line.starts_with("```")) {
                 language = language.empty() ? line.substr(3) : std::string();
             } else if (language == "json") {
-                files[_lastName] += line + "\n";
+                files[lastName_] += line + "\n";
             } else if (language == "console" && line.starts_with("$ ")) {
                 commands.push_back({line.substr(2), {}});
             } else if (language == "console") {
@@ -54,11 +54,11 @@ private:
         const std::size_t end = line.rfind(".json`");
         if (end != std::string::npos) {
             const std::size_t begin = line.rfind('`', end);
-            _lastName = line.substr(begin + 1, end + 5 - begin - 1);
+            lastName_ = line.substr(begin + 1, end + 5 - begin - 1);
         }
     }
 
-    std::string _lastName;
+    std::string lastName_;
 };
 
 /// Splits at blanks outside single quotes.
@@ -83,7 +83,7 @@ class SkillbenchDocumentation : public SkillbenchTest {
 protected:
     Played play(const std::string& line) {
         if (line == "echo $?") {
-            return {std::to_string(_lastExitCode) + "\n"};
+            return {std::to_string(lastExitCode_) + "\n"};
         }
         std::vector<std::string> arguments = words(line);
         EXPECT_EQ(arguments.front(), "skillbench");
@@ -91,12 +91,12 @@ protected:
         std::replace(arguments.begin(), arguments.end(), std::string("pump-station.so"),
                      std::string(CORVANE_PUMP_STATION));
         std::ostringstream terminal;
-        _lastExitCode = corvane::skillbench::run(arguments, {terminal, terminal});
-        return {terminal.str(), _lastExitCode};
+        lastExitCode_ = corvane::skillbench::run(arguments, {terminal, terminal});
+        return {terminal.str(), lastExitCode_};
     }
 
 private:
-    int _lastExitCode = 0;
+    int lastExitCode_ = 0;
 };
 
 TEST_F(SkillbenchDocumentation, ShowsWhatTheToolPrints) {

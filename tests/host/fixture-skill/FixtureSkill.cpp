@@ -27,17 +27,17 @@ private:
               corvane::workbench::config::Context&) override {
         for (const auto& [name, value] : object) {
             if (name == "note") {
-                _note = value.asString().view();
+                note_ = value.asString().view();
             } else {
                 corvane::workbench::config::throwUnknownParameterError(name);
             }
         }
     }
     void save(corvane::utils::json::encoder::Object& object) const override {
-        object.addMember("note").writeString(_note);
+        object.addMember("note").writeString(note_);
     }
 
-    std::string _note;
+    std::string note_;
 };
 
 class FixtureFactory final : public skill::AbstractElementFactory {
@@ -61,11 +61,11 @@ public:
     model::ElementCategory category() const override {
         return model::ElementCategory::SpecialPurpose;
     }
-    const skill::AbstractElementFactory& factory() const override { return _factory; }
+    const skill::AbstractElementFactory& factory() const override { return factory_; }
     std::string defaultName() const override { return "fixture"; }
 
 private:
-    FixtureFactory _factory;
+    FixtureFactory factory_;
 };
 
 class FixtureSkill final : public skill::Skill {};
@@ -76,14 +76,14 @@ public:
     std::wstring displayName() const override { return L"Fixture skill"; }
     std::string_view version() const override { return "2.1"; }
     void registerElementClasses(Registry& registry) const override {
-        registry.registerElementClass(_elementClass);
+        registry.registerElementClass(elementClass_);
     }
     std::unique_ptr<skill::Skill> createSkill() const override {
         return std::make_unique<FixtureSkill>();
     }
 
 private:
-    FixtureElementClass _elementClass;
+    FixtureElementClass elementClass_;
 };
 
 const FixtureSkillClass kFixtureSkill;

@@ -161,45 +161,45 @@ public:
     void forEachEditableProperty(function_ref<void(const EditableProperty&)> callback) override {
         using Editor = EditableProperty::Editor;
         auto note = describe("note", L"Note", propertyHandle(kNote), Editor::Text);
-        note.text = [this] { return toWide(_note); };
+        note.text = [this] { return toWide(note_); };
         note.setText = [this](std::wstring_view text) -> State {
-            _note = toUtf8(text);
+            note_ = toUtf8(text);
             publish(kNote, bindings::Action::Update, 0);
             return {};
         };
         callback(note);
-        callback(number("level", L"Füllstand", propertyHandle(kLevel), _level));
+        callback(number("level", L"Füllstand", propertyHandle(kLevel), level_));
         auto mode = describe("mode", L"Mode", propertyHandle(kMode), Editor::Choice);
         mode.choices = {L"manual", L"automatic"};
-        mode.text = [this] { return _automatic ? L"automatic" : L"manual"; };
+        mode.text = [this] { return automatic_ ? L"automatic" : L"manual"; };
         mode.setText = [this](std::wstring_view text) -> State {
             if (text != L"manual" && text != L"automatic") {
                 return tl::unexpected(std::wstring(L"must be manual or automatic"));
             }
-            _automatic = text == L"automatic";
+            automatic_ = text == L"automatic";
             publish(kMode, bindings::Action::Update, 0);
             return {};
         };
         callback(mode);
-        callback(number("setPoint", L"Set point", propertyHandle(kSetPoint), _setPoint));
+        callback(number("setPoint", L"Set point", propertyHandle(kSetPoint), setPoint_));
         auto summary = describe("summary", L"Summary", propertyHandle(kSummary), Editor::Text);
-        summary.text = [this] { return std::to_wstring(_level) + L" %"; };
+        summary.text = [this] { return std::to_wstring(level_) + L" %"; };
         callback(summary);
-        auto count = number("limitCount", L"Number of limits", propertyHandle(kLimitCount), _count);
+        auto count = number("limitCount", L"Number of limits", propertyHandle(kLimitCount), count_);
         count.setText = [this, set = count.setText](std::wstring_view text) -> State {
             if (auto done = set(text); !done) {
                 return done;
             }
-            _limits.assign(std::vector<std::int64_t>(static_cast<std::size_t>(_count), 50));
+            limits_.assign(std::vector<std::int64_t>(static_cast<std::size_t>(count_), 50));
             publish(kLimits, bindings::Action::Update, 0);
             return {};
         };
         callback(count);
         auto limits =
             describe("limits", L"Limits", propertyHandle(kLimits), Editor::SubElementList);
-        limits.text = [this] { return std::to_wstring(_limits.rows.size()); };
+        limits.text = [this] { return std::to_wstring(limits_.rows.size()); };
         limits.forEachSubElement = [this](const function_ref<void(skill::SubElement&)>& visit) {
-            for (const auto& row : _limits.rows) {
+            for (const auto& row : limits_.rows) {
                 visit(*row);
             }
         };
@@ -209,33 +209,33 @@ public:
 private:
     void configureProperties(PropertyConfigurationContext& context) override {
         context.configure(kNote, {});
-        context.configure(kLevel, {.state = [this] { return atMost(_level, 100); }});
+        context.configure(kLevel, {.state = [this] { return atMost(level_, 100); }});
         context.configure(kMode, {});
-        context.configure(kSetPoint, {.state = [this] { return atMost(_setPoint, 100); },
-                                      .visibility = [this] { return _automatic; },
+        context.configure(kSetPoint, {.state = [this] { return atMost(setPoint_, 100); },
+                                      .visibility = [this] { return automatic_; },
                                       .visibilityDependencies = {kMode}});
         context.configure(kSummary, {.valueDependencies = {kLevel}});
         context.configure(kLimitCount, {});
-        context.configure(kLimits, {}, {.subPropertyContainer = &_limits});
-        _limits.assign(_loadedLimits);
+        context.configure(kLimits, {}, {.subPropertyContainer = &limits_});
+        limits_.assign(loadedLimits_);
     }
 
     void load(decoder::Object& object, config::Context&) override {
         for (const auto& [name, value] : object) {
             if (name.text() == "note") {
-                _note = std::string(value.asString().view());
+                note_ = std::string(value.asString().view());
             } else if (name.text() == "level") {
-                _level = value.asInt64();
+                level_ = value.asInt64();
             } else if (name.text() == "automatic") {
-                _automatic = value.asBool();
+                automatic_ = value.asBool();
             } else if (name.text() == "setPoint") {
-                _setPoint = value.asInt64();
+                setPoint_ = value.asInt64();
             } else if (name.text() == "limits") {
                 auto array = value.asArray();
                 for (auto& limit : array) {
-                    _loadedLimits.push_back(limit.asInt64());
+                    loadedLimits_.push_back(limit.asInt64());
                 }
-                _count = static_cast<std::int64_t>(_loadedLimits.size());
+                count_ = static_cast<std::int64_t>(loadedLimits_.size());
             } else {
                 config::throwUnknownParameterError(name);
             }
@@ -243,14 +243,14 @@ private:
     }
 
     void save(encoder::Object& object) const override {
-        if (!_note.empty()) {
-            object.addMember("note").writeString(_note);
+        if (!note_.empty()) {
+            object.addMember("note").writeString(note_);
         }
-        object.addMember("level").writeNumber(numeric::format(_level));
-        object.addMember("automatic").writeBool(_automatic);
-        object.addMember("setPoint").writeNumber(numeric::format(_setPoint));
+        object.addMember("level").writeNumber(numeric::format(level_));
+        object.addMember("automatic").writeBool(automatic_);
+        object.addMember("setPoint").writeNumber(numeric::format(setPoint_));
         encoder::Array limits = object.addMember("limits").writeArray();
-        for (const auto& row : _limits.rows) {
+        for (const auto& row : limits_.rows) {
             limits.addElement().writeNumber(numeric::format(row->high));
         }
     }
@@ -261,13 +261,13 @@ private:
                                          corvane::workbench::data::DataType{4, 8}, {}));
     }
 
-    std::string _note;
-    std::int64_t _level = 0;
-    bool _automatic = false;
-    std::int64_t _setPoint = 0;
-    std::int64_t _count = 0;
-    std::vector<std::int64_t> _loadedLimits;
-    Limits _limits;
+    std::string note_;
+    std::int64_t level_ = 0;
+    bool automatic_ = false;
+    std::int64_t setPoint_ = 0;
+    std::int64_t count_ = 0;
+    std::vector<std::int64_t> loadedLimits_;
+    Limits limits_;
 };
 
 const PropertyKey Tank::kNote;
@@ -289,27 +289,27 @@ State stateOf(const Found& found) {
 class Gauge final : public skill::Element {
 public:
     void forEachEditableProperty(function_ref<void(const EditableProperty&)> callback) override {
-        callback(reference("tank", L"Tank", *this, _tank));
-        callback(reference("source", L"Source", *this, _source));
+        callback(reference("tank", L"Tank", *this, tank_));
+        callback(reference("source", L"Source", *this, source_));
     }
 
 private:
     void configureProperties(PropertyConfigurationContext& context) override {
-        context.configure(_tank.propertyId(),
-                          {.state = [this] { return _tank ? stateOf(_tank.element()) : State(); }},
-                          {.crossReferenceController = &_tank});
+        context.configure(tank_.propertyId(),
+                          {.state = [this] { return tank_ ? stateOf(tank_.element()) : State(); }},
+                          {.crossReferenceController = &tank_});
         context.configure(
-            _source.propertyId(),
-            {.state = [this] { return _source ? stateOf(_source.attribute()) : State(); }},
-            {.crossReferenceController = &_source});
+            source_.propertyId(),
+            {.state = [this] { return source_ ? stateOf(source_.attribute()) : State(); }},
+            {.crossReferenceController = &source_});
     }
 
     void load(decoder::Object& object, config::Context& context) override {
         for (const auto& [name, value] : object) {
             if (name.text() == "tank") {
-                context.resolve(config::Context::ReferenceKey(value), std::ref(_tank));
+                context.resolve(config::Context::ReferenceKey(value), std::ref(tank_));
             } else if (name.text() == "source") {
-                context.resolve(config::Context::ReferenceKey(value), std::ref(_source));
+                context.resolve(config::Context::ReferenceKey(value), std::ref(source_));
             } else {
                 config::throwUnknownParameterError(name);
             }
@@ -317,16 +317,16 @@ private:
     }
 
     void save(encoder::Object& object) const override {
-        if (_tank) {
-            _tank.saveTo(object, "tank");
+        if (tank_) {
+            tank_.saveTo(object, "tank");
         }
-        if (_source) {
-            _source.saveTo(object, "source");
+        if (source_) {
+            source_.saveTo(object, "source");
         }
     }
 
-    model::ElementReference _tank;
-    model::AttributeReference _source;
+    model::ElementReference tank_;
+    model::AttributeReference source_;
 };
 
 template <class E>
@@ -346,31 +346,31 @@ class ElementClass final : public skill::Element::Class {
 public:
     ElementClass(std::string_view id, std::uint8_t number, std::wstring displayName,
                  model::ElementCategory category)
-        : _id(id), _number(number), _displayName(std::move(displayName)), _category(category) {}
+        : id_(id), number_(number), displayName_(std::move(displayName)), category_(category) {}
 
-    [[nodiscard]] std::string_view id() const override { return _id; }
+    [[nodiscard]] std::string_view id() const override { return id_; }
     [[nodiscard]] corvane::utils::core::Uuid uuid() const override {
         corvane::utils::core::Uuid::Bytes bytes{};
-        bytes.back() = _number;
+        bytes.back() = number_;
         return corvane::utils::core::Uuid(bytes);
     }
-    [[nodiscard]] std::wstring displayName() const override { return _displayName; }
+    [[nodiscard]] std::wstring displayName() const override { return displayName_; }
     [[nodiscard]] std::wstring description() const override {
-        return L"A " + _displayName + L" for tests.";
+        return L"A " + displayName_ + L" for tests.";
     }
-    [[nodiscard]] model::ElementCategory category() const override { return _category; }
-    [[nodiscard]] const skill::AbstractElementFactory& factory() const override { return _factory; }
+    [[nodiscard]] model::ElementCategory category() const override { return category_; }
+    [[nodiscard]] const skill::AbstractElementFactory& factory() const override { return factory_; }
     [[nodiscard]] bool allowChildElement(const Class&) const override {
-        return _category == model::ElementCategory::ElementGroup;
+        return category_ == model::ElementCategory::ElementGroup;
     }
-    [[nodiscard]] std::string defaultName() const override { return std::string(_id); }
+    [[nodiscard]] std::string defaultName() const override { return std::string(id_); }
 
 private:
-    std::string_view _id;
-    std::uint8_t _number;
-    std::wstring _displayName;
-    model::ElementCategory _category;
-    Factory<E> _factory;
+    std::string_view id_;
+    std::uint8_t number_;
+    std::wstring displayName_;
+    model::ElementCategory category_;
+    Factory<E> factory_;
 };
 
 class TankSkill final : public skill::Skill {};
@@ -381,18 +381,18 @@ public:
     [[nodiscard]] std::wstring displayName() const override { return L"Behälter"; }
     [[nodiscard]] std::string_view version() const override { return "2.1"; }
     void registerElementClasses(Registry& registry) const override {
-        registry.registerElementClass(_group);
-        registry.registerElementClass(_tank);
-        registry.registerElementClass(_gauge);
+        registry.registerElementClass(group_);
+        registry.registerElementClass(tank_);
+        registry.registerElementClass(gauge_);
     }
     [[nodiscard]] std::unique_ptr<skill::Skill> createSkill() const override {
         return std::make_unique<TankSkill>();
     }
 
 private:
-    ElementClass<Group> _group{"group", 1, L"Group", model::ElementCategory::ElementGroup};
-    ElementClass<Tank> _tank{"tank", 2, L"Tank", model::ElementCategory::Device};
-    ElementClass<Gauge> _gauge{"gauge", 3, L"Gauge", model::ElementCategory::DataPoint};
+    ElementClass<Group> group_{"group", 1, L"Group", model::ElementCategory::ElementGroup};
+    ElementClass<Tank> tank_{"tank", 2, L"Tank", model::ElementCategory::Device};
+    ElementClass<Gauge> gauge_{"gauge", 3, L"Gauge", model::ElementCategory::DataPoint};
 };
 
 const TankSkillClass tankSkill;

@@ -149,62 +149,62 @@ public:
 };
 
 CommandLine::CommandLine(const std::string& name, const std::string& description)
-    : _state(std::make_unique<State>()) {
-    _state->app.name(name);
-    _state->app.description(wrapped(description));
-    _state->app.set_help_flag("-h,--help", "print this help");
-    _state->app.allow_extras();
+    : state_(std::make_unique<State>()) {
+    state_->app.name(name);
+    state_->app.description(wrapped(description));
+    state_->app.set_help_flag("-h,--help", "print this help");
+    state_->app.allow_extras();
     // A path that begins with "/" is no option, on no platform.
-    _state->app.allow_windows_style_options(false);
+    state_->app.allow_windows_style_options(false);
 }
 
 CommandLine::~CommandLine() = default;
 
 void CommandLine::addFlag(const std::string& names, bool& variable,
                           const std::string& description) {
-    _state->flags.emplace_back(_state->app.add_flag(names, description)->disable_flag_override(),
+    state_->flags.emplace_back(state_->app.add_flag(names, description)->disable_flag_override(),
                                &variable);
 }
 
 void CommandLine::addValue(const std::string& names, const std::string& valueName,
                            std::optional<std::string>& variable, const std::string& description) {
-    CLI::Option* option = _state->addOption(names, description);
+    CLI::Option* option = state_->addOption(names, description);
     option->option_text(valueName)->expected(1)->take_all();
-    _state->values.emplace_back(option, &variable);
+    state_->values.emplace_back(option, &variable);
 }
 
 void CommandLine::addValues(const std::string& names, const std::string& valueName,
                             std::vector<std::string>& variable, const std::string& description) {
-    CLI::Option* option = _state->addOption(names, description);
+    CLI::Option* option = state_->addOption(names, description);
     option->option_text(valueName)->expected(1, kMostValues);
-    _state->manyValues = option;
-    _state->manyValuesVariable = &variable;
+    state_->manyValues = option;
+    state_->manyValuesVariable = &variable;
 }
 
 void CommandLine::addOrdered(const std::string& names, const std::string& valueName,
                              std::function<void(const std::string&)> take,
                              const std::string& description) {
-    CLI::Option* option = _state->addOption(names, description);
+    CLI::Option* option = state_->addOption(names, description);
     option->option_text(valueName)->expected(1)->take_all();
-    _state->ordered.emplace(option, std::move(take));
+    state_->ordered.emplace(option, std::move(take));
 }
 
 void CommandLine::addParameter(const std::string& name, std::string& variable,
                                const std::string& description) {
-    _state->parameters.push_back({name, description, &variable});
+    state_->parameters.push_back({name, description, &variable});
 }
 
 void CommandLine::addParameters(const std::string& name, std::vector<std::string>& variable,
                                 const std::string& description) {
-    _state->moreParameters = {name, description, &variable};
+    state_->moreParameters = {name, description, &variable};
 }
 
 bool CommandLine::parse(std::span<const std::string> arguments, std::ostream& out) {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     try {
-        _state->app.parse(std::move(reversed));
+        state_->app.parse(std::move(reversed));
     } catch (const CLI::CallForHelp&) {
-        _state->printHelp(out);
+        state_->printHelp(out);
         return false;
     } catch (const CLI::ArgumentMismatch& mismatch) {
         const std::string text = mismatch.what();
@@ -215,7 +215,7 @@ bool CommandLine::parse(std::span<const std::string> arguments, std::ostream& ou
     } catch (const CLI::ParseError& error) {
         throw UsageFailure(error.what());
     }
-    _state->fill();
+    state_->fill();
     return true;
 }
 

@@ -57,7 +57,7 @@ public:
 
 private:
     class State;
-    std::unique_ptr<State> _state;
+    std::unique_ptr<State> state_;
 };
 
 } // namespace corvane::skillbench

@@ -11,12 +11,12 @@ namespace corvane::skillbench {
 class Failure : public std::runtime_error {
 public:
     Failure(ExitCode exitCode, const std::string& sentence)
-        : std::runtime_error(sentence), _exitCode(exitCode) {}
+        : std::runtime_error(sentence), exitCode_(exitCode) {}
 
-    [[nodiscard]] ExitCode exitCode() const noexcept { return _exitCode; }
+    [[nodiscard]] ExitCode exitCode() const noexcept { return exitCode_; }
 
 private:
-    ExitCode _exitCode;
+    ExitCode exitCode_;
 };
 
 /// The command line itself is wrong: run() adds where the help is.

@@ -50,21 +50,21 @@ std::string actionText(bindings::Action action, std::size_t index) {
 /// without notice: a subscription must not be ended then, it ended with its row.
 class Notifications::Watch {
 public:
-    Watch(Notifications& notifications, host::ElementNode& element) : _element(element) {
+    Watch(Notifications& notifications, host::ElementNode& element) : element_(element) {
         const auto add = [&](const PropertyPlace& place) {
             if (!place.property.property) {
                 return;
             }
             auto subscription = notifications.subscribe(element, place);
             if (place.row == nullptr) {
-                _own.push_back(std::move(subscription));
+                own_.push_back(std::move(subscription));
             } else {
-                _ofRows.emplace_back(place.row, std::make_unique<PropertyController::Subscription>(
+                ofRows_.emplace_back(place.row, std::make_unique<PropertyController::Subscription>(
                                                     std::move(subscription)));
             }
         };
         forEachProperty(element, add);
-        _errorCount = element.properties().subscribeToPropertyErrorCount(
+        errorCount_ = element.properties().subscribeToPropertyErrorCount(
             [&notifications, &element] { notifications.errorCountChanged(element); });
     }
     Watch(const Watch&) = delete;
@@ -72,11 +72,11 @@ public:
 
     ~Watch() {
         std::unordered_set<const skill::SubElement*> rows;
-        if (!_ofRows.empty()) {
+        if (!ofRows_.empty()) {
             const auto note = [&](const PropertyPlace& place) { rows.insert(place.row); };
-            forEachProperty(_element, note);
+            forEachProperty(element_, note);
         }
-        for (auto& [row, subscription] : _ofRows) {
+        for (auto& [row, subscription] : ofRows_) {
             if (!rows.contains(row)) {
                 // Frees the memory without running the destructor.
                 ::operator delete(subscription.release());
@@ -85,38 +85,38 @@ public:
     }
 
 private:
-    const host::ElementNode& _element;
-    std::vector<PropertyController::Subscription> _own;
+    const host::ElementNode& element_;
+    std::vector<PropertyController::Subscription> own_;
     std::vector<
         std::pair<const skill::SubElement*, std::unique_ptr<PropertyController::Subscription>>>
-        _ofRows;
-    bindings::PropertyContainer::ErrorCountSubscription _errorCount;
+        ofRows_;
+    bindings::PropertyContainer::ErrorCountSubscription errorCount_;
 };
 
 Notifications::Notifications(host::Workbench& workbench, std::ostream& out)
-    : _workbench(workbench), _out(out) {
+    : workbench_(workbench), out_(out) {
     refresh();
-    _workbench.addObserver(*this);
+    workbench_.addObserver(*this);
 }
 
 Notifications::~Notifications() {
-    _workbench.removeObserver(*this);
+    workbench_.removeObserver(*this);
 }
 
 void Notifications::refresh() {
-    _watches.clear();
-    watchBelow(_workbench.root());
+    watches_.clear();
+    watchBelow(workbench_.root());
 }
 
 void Notifications::watchBelow(host::ElementNode& element) {
-    _watches.emplace(&element, std::make_unique<Watch>(*this, element));
+    watches_.emplace(&element, std::make_unique<Watch>(*this, element));
     for (std::size_t index = 0; index < element.childCount(); ++index) {
         watchBelow(element.child(index));
     }
 }
 
 void Notifications::forgetBelow(const host::ElementNode& element) {
-    _watches.erase(&element);
+    watches_.erase(&element);
     for (std::size_t index = 0; index < element.childCount(); ++index) {
         forgetBelow(element.child(index));
     }
@@ -183,11 +183,11 @@ void Notifications::referenceStateChanged(const BasicElementReference& reference
 
 std::ostream& Notifications::line(std::string_view what, std::string_view where) const {
     constexpr std::size_t kColumn = 12;
-    return _out << "  " << what << std::string(kColumn - what.size(), ' ') << onOneLine(where);
+    return out_ << "  " << what << std::string(kColumn - what.size(), ' ') << onOneLine(where);
 }
 
 std::string Notifications::placeOf(const BasicElementReference& reference) const {
-    const host::ElementNode* owner = _workbench.ownerOf(reference);
+    const host::ElementNode* owner = workbench_.ownerOf(reference);
     if (owner == nullptr) {
         return "(no element)";
     }

@@ -56,9 +56,9 @@ private:
     [[nodiscard]] std::string
     placeOf(const workbench::model::internal::BasicElementReference& reference) const;
 
-    workbench::host::Workbench& _workbench;
-    std::ostream& _out;
-    std::unordered_map<const workbench::host::ElementNode*, std::unique_ptr<Watch>> _watches;
+    workbench::host::Workbench& workbench_;
+    std::ostream& out_;
+    std::unordered_map<const workbench::host::ElementNode*, std::unique_ptr<Watch>> watches_;
 };
 
 } // namespace corvane::skillbench

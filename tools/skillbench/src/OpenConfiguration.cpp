@@ -46,24 +46,24 @@ void ConfigurationArguments::addTo(CommandLine& commandLine) {
 
 OpenConfiguration::OpenConfiguration(const ConfigurationArguments& arguments,
                                      const Streams& streams)
-    : _file(pathOf(arguments.configuration)) {
+    : file_(pathOf(arguments.configuration)) {
     if (arguments.skills.empty()) {
         throw UsageFailure("--skill LIBRARY is missing");
     }
     for (const std::string& library : arguments.skills) {
-        if (const auto opened = _workbench.loadSkills(pathOf(library)); !opened) {
+        if (const auto opened = workbench_.loadSkills(pathOf(library)); !opened) {
             throw Failure(kWrongUsage, opened.error().text);
         }
     }
-    requireReadable(_file);
+    requireReadable(file_);
     host::LoadOptions options;
     options.resolveImportReferences = arguments.resolveImports;
     // The first load says whether the second one left something out.
-    _result = load(options, streams);
-    _complete = _result.loaded;
-    if (!_result.loaded && arguments.keepGoing) {
+    result_ = load(options, streams);
+    complete_ = result_.loaded;
+    if (!result_.loaded && arguments.keepGoing) {
         options.keepGoing = true;
-        _result = load(options, streams);
+        result_ = load(options, streams);
     }
 }
 
@@ -71,7 +71,7 @@ OpenConfiguration::~OpenConfiguration() = default;
 
 host::LoadResult OpenConfiguration::load(const host::LoadOptions& options, const Streams& streams) {
     if (!streams.showsProgress) {
-        return _workbench.loadConfiguration(_file, options);
+        return workbench_.loadConfiguration(file_, options);
     }
     ProgressBar bar(streams.err);
     host::LoadOptions watched = options;
@@ -79,23 +79,23 @@ host::LoadResult OpenConfiguration::load(const host::LoadOptions& options, const
         bar.show(progress);
         return true;
     };
-    return _workbench.loadConfiguration(_file, watched);
+    return workbench_.loadConfiguration(file_, watched);
 }
 
 void OpenConfiguration::printLoadProblems(std::ostream& to) const {
-    for (const host::Problem& problem : _result.problems) {
+    for (const host::Problem& problem : result_.problems) {
         to << onOneLine(host::toString(problem)) << '\n';
     }
 }
 
 void OpenConfiguration::requireWritable(const std::filesystem::path& target) const {
-    if (!_result.loaded) {
+    if (!result_.loaded) {
         throw Failure(kProblems,
-                      inQuotes(pathText(_file)) + " cannot be loaded; no file was written");
+                      inQuotes(pathText(file_)) + " cannot be loaded; no file was written");
     }
     std::error_code ignored;
-    if (!_complete && std::filesystem::equivalent(_file, target, ignored)) {
-        throw Failure(kProblems, "what was left out of " + inQuotes(pathText(_file)) +
+    if (!complete_ && std::filesystem::equivalent(file_, target, ignored)) {
+        throw Failure(kProblems, "what was left out of " + inQuotes(pathText(file_)) +
                                      " would be lost; write to another file with -o");
     }
 }

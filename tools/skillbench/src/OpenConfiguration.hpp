@@ -35,18 +35,18 @@ public:
     OpenConfiguration& operator=(const OpenConfiguration&) = delete;
     ~OpenConfiguration();
 
-    [[nodiscard]] workbench::host::Workbench& workbench() noexcept { return _workbench; }
+    [[nodiscard]] workbench::host::Workbench& workbench() noexcept { return workbench_; }
     [[nodiscard]] const workbench::host::Workbench& workbench() const noexcept {
-        return _workbench;
+        return workbench_;
     }
-    [[nodiscard]] const std::filesystem::path& file() const noexcept { return _file; }
+    [[nodiscard]] const std::filesystem::path& file() const noexcept { return file_; }
     /// Whether the workbench has the configuration.
-    [[nodiscard]] bool loaded() const noexcept { return _result.loaded; }
+    [[nodiscard]] bool loaded() const noexcept { return result_.loaded; }
     /// Whether it has all of it; otherwise --keep-going left parts out.
-    [[nodiscard]] bool complete() const noexcept { return _complete; }
+    [[nodiscard]] bool complete() const noexcept { return complete_; }
     /// What the load had to say, in the order of the file.
     [[nodiscard]] const std::vector<workbench::host::Problem>& loadProblems() const noexcept {
-        return _result.problems;
+        return result_.problems;
     }
     /// Prints the problems of the load, each on a line of its own.
     void printLoadProblems(std::ostream& to) const;
@@ -58,10 +58,10 @@ private:
     [[nodiscard]] workbench::host::LoadResult load(const workbench::host::LoadOptions& options,
                                                    const Streams& streams);
 
-    workbench::host::Workbench _workbench;
-    std::filesystem::path _file;
-    workbench::host::LoadResult _result;
-    bool _complete = false;
+    workbench::host::Workbench workbench_;
+    std::filesystem::path file_;
+    workbench::host::LoadResult result_;
+    bool complete_ = false;
 };
 
 } // namespace corvane::skillbench

@@ -29,24 +29,24 @@ std::string_view nameOf(LoadProgress::Stage stage) {
 } // namespace
 
 ProgressBar::ProgressBar(std::ostream& terminal, std::chrono::milliseconds patience)
-    : _terminal(terminal), _start(std::chrono::steady_clock::now() + patience) {}
+    : terminal_(terminal), start_(std::chrono::steady_clock::now() + patience) {}
 
 ProgressBar::~ProgressBar() {
-    if (!_shown.empty()) {
-        _terminal << '\r' << std::string(_shown.size(), ' ') << '\r' << std::flush;
+    if (!shown_.empty()) {
+        terminal_ << '\r' << std::string(shown_.size(), ' ') << '\r' << std::flush;
     }
 }
 
 void ProgressBar::show(const LoadProgress& progress) {
-    if (std::chrono::steady_clock::now() < _start) {
+    if (std::chrono::steady_clock::now() < start_) {
         return;
     }
     std::string next = line(progress);
     // Covers what a longer line left.
-    next.append(_shown.size() - std::min(_shown.size(), next.size()), ' ');
-    if (next != _shown) {
-        _shown = std::move(next);
-        _terminal << '\r' << _shown << std::flush;
+    next.append(shown_.size() - std::min(shown_.size(), next.size()), ' ');
+    if (next != shown_) {
+        shown_ = std::move(next);
+        terminal_ << '\r' << shown_ << std::flush;
     }
 }
 

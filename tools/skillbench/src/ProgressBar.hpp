@@ -27,9 +27,9 @@ public:
     [[nodiscard]] static std::string line(const workbench::host::LoadProgress& progress);
 
 private:
-    std::ostream& _terminal;
-    std::chrono::steady_clock::time_point _start;
-    std::string _shown;
+    std::ostream& terminal_;
+    std::chrono::steady_clock::time_point start_;
+    std::string shown_;
 };
 
 } // namespace corvane::skillbench

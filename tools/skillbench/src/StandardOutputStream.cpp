@@ -5,8 +5,8 @@
 
 namespace corvane::skillbench {
 
-StandardOutputStream::StandardOutputStream(std::ostream& target) : _target(target) {
-    setBuffer(_block.data(), _block.data(), _block.data() + _block.size());
+StandardOutputStream::StandardOutputStream(std::ostream& target) : target_(target) {
+    setBuffer(block_.data(), block_.data(), block_.data() + block_.size());
 }
 
 StandardOutputStream::~StandardOutputStream() = default;
@@ -16,8 +16,8 @@ std::string StandardOutputStream::description() const {
 }
 
 void StandardOutputStream::flushBuffer() {
-    _target.write(bufferBegin(), static_cast<std::streamsize>(bufferPosition() - bufferBegin()));
-    setBuffer(_block.data(), _block.data(), _block.data() + _block.size());
+    target_.write(bufferBegin(), static_cast<std::streamsize>(bufferPosition() - bufferBegin()));
+    setBuffer(block_.data(), block_.data(), block_.data() + block_.size());
 }
 
 } // namespace corvane::skillbench

@@ -20,8 +20,8 @@ public:
 private:
     void flushBuffer() override;
 
-    std::ostream& _target;
-    std::array<char, 4096> _block;
+    std::ostream& target_;
+    std::array<char, 4096> block_;
 };
 
 } // namespace corvane::skillbench

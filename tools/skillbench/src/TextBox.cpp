@@ -8,21 +8,21 @@
 namespace corvane::skillbench {
 
 TextBox::TextBox(std::wstring text, std::size_t cursor)
-    : _text(std::move(text)), _anchor(cursor), _cursor(cursor) {}
+    : text_(std::move(text)), anchor_(cursor), cursor_(cursor) {}
 
 void TextBox::moveLeft(Selection selection) {
     if (selection == Selection::Drop && hasSelection()) {
         moveTo(begin(), selection);
-    } else if (_cursor != 0) {
-        moveTo(static_cast<std::size_t>(_cursor) - 1, selection);
+    } else if (cursor_ != 0) {
+        moveTo(static_cast<std::size_t>(cursor_) - 1, selection);
     }
 }
 
 void TextBox::moveRight(Selection selection) {
     if (selection == Selection::Drop && hasSelection()) {
         moveTo(end(), selection);
-    } else if (_cursor != _text.size()) {
-        moveTo(static_cast<std::size_t>(_cursor) + 1, selection);
+    } else if (cursor_ != text_.size()) {
+        moveTo(static_cast<std::size_t>(cursor_) + 1, selection);
     }
 }
 
@@ -31,17 +31,17 @@ void TextBox::moveHome(Selection selection) {
 }
 
 void TextBox::moveEnd(Selection selection) {
-    moveTo(_text.size(), selection);
+    moveTo(text_.size(), selection);
 }
 
 void TextBox::selectAll() {
-    _anchor = 0;
-    _cursor = _text.size();
+    anchor_ = 0;
+    cursor_ = text_.size();
 }
 
 void TextBox::enter(std::wstring_view entered) {
     const std::size_t start = begin();
-    _text.replace(start, end() - start, entered);
+    text_.replace(start, end() - start, entered);
     moveTo(start + entered.size(), Selection::Drop);
 }
 
@@ -64,28 +64,28 @@ bool TextBox::deleteForward() {
 }
 
 std::string TextBox::picture() const {
-    std::wstring result = _text;
+    std::wstring result = text_;
     if (hasSelection()) {
         result.insert(end(), 1, L']');
         result.insert(begin(), 1, L'[');
     } else {
-        result.insert(static_cast<std::size_t>(_cursor), 1, L'|');
+        result.insert(static_cast<std::size_t>(cursor_), 1, L'|');
     }
     return onOneLine(result);
 }
 
 std::size_t TextBox::begin() const noexcept {
-    return static_cast<std::size_t>(std::min(_anchor, _cursor));
+    return static_cast<std::size_t>(std::min(anchor_, cursor_));
 }
 
 std::size_t TextBox::end() const noexcept {
-    return static_cast<std::size_t>(std::max(_anchor, _cursor));
+    return static_cast<std::size_t>(std::max(anchor_, cursor_));
 }
 
 void TextBox::moveTo(std::size_t position, Selection selection) noexcept {
-    _cursor = position;
+    cursor_ = position;
     if (selection == Selection::Drop) {
-        _anchor = position;
+        anchor_ = position;
     }
 }
 

@@ -14,10 +14,10 @@ public:
     /// Without a selection. Precondition: the cursor is within the text.
     TextBox(std::wstring text, std::size_t cursor);
 
-    [[nodiscard]] const std::wstring& text() const noexcept { return _text; }
+    [[nodiscard]] const std::wstring& text() const noexcept { return text_; }
     /// Where the selection was begun; the cursor itself when nothing is selected.
-    [[nodiscard]] std::uint64_t anchor() const noexcept { return _anchor; }
-    [[nodiscard]] std::uint64_t cursor() const noexcept { return _cursor; }
+    [[nodiscard]] std::uint64_t anchor() const noexcept { return anchor_; }
+    [[nodiscard]] std::uint64_t cursor() const noexcept { return cursor_; }
 
     enum class Selection {
         Drop,  ///< what was selected no longer is
@@ -42,21 +42,21 @@ public:
     /// Lets an adjuster rewrite the text and move the two ends of the selection.
     template <class Adjuster>
     void adjust(const Adjuster& adjuster) {
-        adjuster(_text, _anchor, _cursor);
+        adjuster(text_, anchor_, cursor_);
     }
 
     /// The text with "|" at the cursor or "[" and "]" around the selection (UTF-8).
     [[nodiscard]] std::string picture() const;
 
 private:
-    [[nodiscard]] bool hasSelection() const noexcept { return _anchor != _cursor; }
+    [[nodiscard]] bool hasSelection() const noexcept { return anchor_ != cursor_; }
     [[nodiscard]] std::size_t begin() const noexcept;
     [[nodiscard]] std::size_t end() const noexcept;
     void moveTo(std::size_t position, Selection selection) noexcept;
 
-    std::wstring _text;
-    std::uint64_t _anchor = 0;
-    std::uint64_t _cursor = 0;
+    std::wstring text_;
+    std::uint64_t anchor_ = 0;
+    std::uint64_t cursor_ = 0;
 };
 
 } // namespace corvane::skillbench

@@ -44,17 +44,17 @@ void collectKeys(const host::ElementNode& parent, Keys& keys) {
 
 class Editor {
 public:
-    explicit Editor(host::Workbench& workbench) : _workbench(workbench) {}
+    explicit Editor(host::Workbench& workbench) : workbench_(workbench) {}
 
     void apply(const Edit& edit) const {
         if (edit.option == "--remove") {
-            require(edit, _workbench.remove(edit.argument));
+            require(edit, workbench_.remove(edit.argument));
         } else if (edit.option == "--rename") {
             const auto [key, name] = split(edit, "KEY=NAME");
-            require(edit, _workbench.rename(key, name));
+            require(edit, workbench_.rename(key, name));
         } else if (edit.option == "--move") {
             const auto [key, parent] = split(edit, "KEY=PARENT");
-            require(edit, _workbench.move(key, parent));
+            require(edit, workbench_.move(key, parent));
         } else {
             set(edit);
         }
@@ -76,7 +76,7 @@ private:
 
     [[nodiscard]] Parts split(const Edit& edit, std::string_view form) const {
         const auto isKey = [&](std::string_view text) {
-            return _workbench.findElement(text) != nullptr;
+            return workbench_.findElement(text) != nullptr;
         };
         return required(edit, splitAssignment(edit.argument, isKey), form);
     }
@@ -91,13 +91,13 @@ private:
 
     void set(const Edit& edit) const {
         const auto isProperty = [&](std::string_view text) {
-            return findProperty(_workbench, text).has_value();
+            return findProperty(workbench_, text).has_value();
         };
         const auto [address, value] =
             required(edit, splitAssignment(edit.argument, isProperty), "KEY.PROPERTY=VALUE");
-        const auto property = findProperty(_workbench, address);
+        const auto property = findProperty(workbench_, address);
         if (!property) {
-            fail(edit, propertyNotFound(_workbench, address));
+            fail(edit, propertyNotFound(workbench_, address));
         }
         // Setting happens outside the walk: it may change what is walked through.
         std::optional<skill::EditableProperty> found;
@@ -109,7 +109,7 @@ private:
     void setValue(const Edit& edit, const skill::EditableProperty& property,
                   std::string_view value) const {
         if (property.editor == skill::EditableProperty::Editor::Reference) {
-            require(edit, _workbench.setReference(property, value));
+            require(edit, workbench_.setReference(property, value));
         } else if (property.editor == skill::EditableProperty::Editor::SubElementList) {
             fail(edit, "a list is set row by row, as in LIST.0.PROPERTY=VALUE");
         } else if (!property.setText) {
@@ -119,7 +119,7 @@ private:
         }
     }
 
-    host::Workbench& _workbench;
+    host::Workbench& workbench_;
 };
 
 void printChangedKeys(const host::Workbench& workbench, const Keys& before, std::ostream& out) {

@@ -23,7 +23,7 @@ namespace host = workbench::host;
 class UsePrinter {
 public:
     UsePrinter(std::vector<host::ReferenceUse> uses, std::ostream& out)
-        : _uses(std::move(uses)), _out(out) {}
+        : uses_(std::move(uses)), out_(out) {}
 
     /// Prints what an element and those below it hold.
     void printBelow(const host::ElementNode& element) {
@@ -31,32 +31,32 @@ public:
             const auto isPlace = [&](const host::ReferenceUse& use) {
                 return isProperty(*use.reference, place.property);
             };
-            const auto use = std::find_if(_uses.begin(), _uses.end(), isPlace);
-            if (use != _uses.end()) {
+            const auto use = std::find_if(uses_.begin(), uses_.end(), isPlace);
+            if (use != uses_.end()) {
                 printUse(element.primaryKey() + "." + place.path, *use);
-                _uses.erase(use);
+                uses_.erase(use);
             }
         };
         forEachProperty(element, print);
-        for (std::size_t index = 0; index < element.childCount() && !_uses.empty(); ++index) {
+        for (std::size_t index = 0; index < element.childCount() && !uses_.empty(); ++index) {
             printBelow(element.child(index));
         }
     }
 
     /// Prints the references that no property shows.
     void printRest() const {
-        for (const host::ReferenceUse& use : _uses) {
+        for (const host::ReferenceUse& use : uses_) {
             printUse(use.owner != nullptr ? use.owner->primaryKey() : "(no element)", use);
         }
     }
 
 private:
     void printUse(const std::string& place, const host::ReferenceUse& use) const {
-        _out << onOneLine(place) << " → " << onOneLine(use.reference->data().primaryKey()) << '\n';
+        out_ << onOneLine(place) << " → " << onOneLine(use.reference->data().primaryKey()) << '\n';
     }
 
-    std::vector<host::ReferenceUse> _uses;
-    std::ostream& _out;
+    std::vector<host::ReferenceUse> uses_;
+    std::ostream& out_;
 };
 
 } // namespace

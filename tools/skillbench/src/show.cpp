@@ -21,18 +21,18 @@ namespace skill = workbench::skill;
 
 class TreePrinter {
 public:
-    explicit TreePrinter(std::ostream& out) : _out(out) {}
+    explicit TreePrinter(std::ostream& out) : out_(out) {}
 
     void printElement(const host::ElementNode& element) {
         indent() << onOneLine(element.name()) << "  (" << onOneLine(element.type()) << ", "
                  << countText(element.properties().propertyErrorCount(), "error") << ")\n";
-        ++_level;
+        ++level_;
         const auto print = [&](const skill::EditableProperty& property) {
             printProperty(property);
         };
         element.skillElement()->forEachEditableProperty(print);
         printChildren(element);
-        --_level;
+        --level_;
     }
 
     void printChildren(const host::ElementNode& element) {
@@ -42,7 +42,7 @@ public:
     }
 
 private:
-    std::ostream& indent() { return _out << std::string(2 * _level, ' '); }
+    std::ostream& indent() { return out_ << std::string(2 * level_, ' '); }
 
     void printProperty(const skill::EditableProperty& property) {
         const auto& state = property.property.state();
@@ -52,34 +52,34 @@ private:
                               : "error  ")
                  << onOneLine(property.displayName) << ':';
         if (const std::string value = valueText(property); !value.empty()) {
-            _out << ' ' << value;
+            out_ << ' ' << value;
         }
         if (!state) {
-            _out << "  <- " << onOneLine(state.error());
+            out_ << "  <- " << onOneLine(state.error());
         }
-        _out << '\n';
+        out_ << '\n';
         if (property.forEachSubElement) {
             std::size_t index = 0;
             const auto print = [&](skill::SubElement& row) { printRow(row, index++); };
-            _level += 4;
+            level_ += 4;
             property.forEachSubElement(print);
-            _level -= 4;
+            level_ -= 4;
         }
     }
 
     void printRow(skill::SubElement& row, std::size_t index) {
         indent() << index << ": " << onOneLine(row.displayName()) << "  ("
                  << countText(row.propertyErrorCount(), "error") << ")\n";
-        ++_level;
+        ++level_;
         const auto print = [&](const skill::EditableProperty& property) {
             printProperty(property);
         };
         row.forEachEditableProperty(print);
-        --_level;
+        --level_;
     }
 
-    std::ostream& _out;
-    std::size_t _level = 0;
+    std::ostream& out_;
+    std::size_t level_ = 0;
 };
 
 void printText(const OpenConfiguration& configuration, const Streams& streams) {

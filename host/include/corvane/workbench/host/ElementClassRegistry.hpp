@@ -31,17 +31,17 @@ public:
     /// In the order of registration.
     [[nodiscard]] const std::vector<std::reference_wrapper<const skill::Element::Class>>&
     all() const noexcept {
-        return _all;
+        return all_;
     }
 
     /// Forgets all classes but the first `count`.
     void truncate(std::size_t count) noexcept;
 
 private:
-    std::vector<std::reference_wrapper<const skill::Element::Class>> _all;
+    std::vector<std::reference_wrapper<const skill::Element::Class>> all_;
     // Keyed by the classes' own ids, copied because a class may compute its id anew at each call.
-    std::unordered_map<std::string, const skill::Element::Class*> _byId;
-    std::unordered_map<corvane::utils::core::Uuid, const skill::Element::Class*> _byUuid;
+    std::unordered_map<std::string, const skill::Element::Class*> byId_;
+    std::unordered_map<corvane::utils::core::Uuid, const skill::Element::Class*> byUuid_;
 };
 
 } // namespace corvane::workbench::host

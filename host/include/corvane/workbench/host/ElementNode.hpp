@@ -46,12 +46,12 @@ public:
     /// The element's class. Precondition: not the root.
     [[nodiscard]] const skill::Element::Class& elementClass() const override;
     /// The skill's half; null for the root.
-    [[nodiscard]] skill::Element* skillElement() const noexcept { return _skillElement.get(); }
+    [[nodiscard]] skill::Element* skillElement() const noexcept { return skillElement_.get(); }
 
-    [[nodiscard]] ElementNode* parent() const noexcept { return _parent; }
-    [[nodiscard]] std::size_t childCount() const noexcept { return _children.size(); }
+    [[nodiscard]] ElementNode* parent() const noexcept { return parent_; }
+    [[nodiscard]] std::size_t childCount() const noexcept { return children_.size(); }
     /// Precondition: index < childCount().
-    [[nodiscard]] ElementNode& child(std::size_t index) const { return *_children[index]; }
+    [[nodiscard]] ElementNode& child(std::size_t index) const { return *children_[index]; }
     /// The child of that name, or null; does not depend on how many children there are.
     [[nodiscard]] ElementNode* findChild(std::string_view name) const;
     /// How many levels below the root: 0 for the root.
@@ -59,16 +59,16 @@ public:
 
     /// Counts the invalid properties of the element and of everything below it:
     /// `properties().propertyErrorCount()`. Subscriptions must end before the element does.
-    [[nodiscard]] ElementProperties& properties() noexcept { return _properties; }
-    [[nodiscard]] const ElementProperties& properties() const noexcept { return _properties; }
+    [[nodiscard]] ElementProperties& properties() noexcept { return properties_; }
+    [[nodiscard]] const ElementProperties& properties() const noexcept { return properties_; }
 
     /// Where the element's class is named in the file it was loaded from; 0 when it was not loaded.
-    [[nodiscard]] std::uint64_t line() const noexcept { return _line; }
-    [[nodiscard]] std::uint64_t column() const noexcept { return _column; }
+    [[nodiscard]] std::uint64_t line() const noexcept { return line_; }
+    [[nodiscard]] std::uint64_t column() const noexcept { return column_; }
 
     /// The element's access-control list, kept as it was in the file.
     [[nodiscard]] const std::optional<json::Value>& accessControl() const noexcept {
-        return _accessControl;
+        return accessControl_;
     }
 
 private:
@@ -117,20 +117,20 @@ private:
     [[nodiscard]] std::unique_ptr<ElementNode> extractChild(ElementNode& child);
     void renameChild(ElementNode& child, std::string name);
 
-    ElementTree* _tree = nullptr; // of the root only
-    const skill::Element::Class* _elementClass = nullptr;
-    ElementNode* _parent = nullptr;
-    std::string _name;
-    corvane::utils::core::Uuid _uuid;
-    std::uint64_t _line = 0;
-    std::uint64_t _column = 0;
-    std::optional<json::Value> _accessControl;
-    std::vector<std::unique_ptr<ElementNode>> _children;
+    ElementTree* tree_ = nullptr; // of the root only
+    const skill::Element::Class* elementClass_ = nullptr;
+    ElementNode* parent_ = nullptr;
+    std::string name_;
+    corvane::utils::core::Uuid uuid_;
+    std::uint64_t line_ = 0;
+    std::uint64_t column_ = 0;
+    std::optional<json::Value> accessControl_;
+    std::vector<std::unique_ptr<ElementNode>> children_;
     // The names are views of the children's own; empty while there are few children.
-    std::unordered_map<std::string_view, ElementNode*> _childrenByName;
-    mutable std::weak_ptr<ReferenceProxy> _proxy;
-    ElementProperties _properties;
-    std::unique_ptr<skill::Element> _skillElement;
+    std::unordered_map<std::string_view, ElementNode*> childrenByName_;
+    mutable std::weak_ptr<ReferenceProxy> proxy_;
+    ElementProperties properties_;
+    std::unique_ptr<skill::Element> skillElement_;
 };
 
 } // namespace corvane::workbench::host

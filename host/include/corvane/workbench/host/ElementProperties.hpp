@@ -14,12 +14,12 @@ class ElementNode;
 /// Part of an ElementNode; does not outlive it.
 class ElementProperties final : public bindings::PropertyContainer {
 public:
-    explicit ElementProperties(ElementNode& element) noexcept : _element(element) {}
+    explicit ElementProperties(ElementNode& element) noexcept : element_(element) {}
     ElementProperties(const ElementProperties&) = delete;
     ElementProperties& operator=(const ElementProperties&) = delete;
     ~ElementProperties() override = default;
 
-    [[nodiscard]] ElementNode& element() const noexcept { return _element; }
+    [[nodiscard]] ElementNode& element() const noexcept { return element_; }
 
     /// Counts anew what is directly below, after elements were linked without counting.
     void recount();
@@ -34,7 +34,7 @@ private:
     [[nodiscard]] std::uint64_t localPropertyErrorCount() const override;
     void propertyNotificationRaised(const bindings::PropertyId& property) override;
 
-    ElementNode& _element;
+    ElementNode& element_;
 };
 
 } // namespace corvane::workbench::host

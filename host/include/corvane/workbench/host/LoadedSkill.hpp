@@ -20,21 +20,21 @@ public:
                 std::vector<std::reference_wrapper<const skill::Element::Class>> elementClasses,
                 std::filesystem::path library);
 
-    [[nodiscard]] const skill::Skill::Class& skillClass() const noexcept { return _skillClass; }
-    [[nodiscard]] skill::Skill& instance() const noexcept { return *_instance; }
+    [[nodiscard]] const skill::Skill::Class& skillClass() const noexcept { return skillClass_; }
+    [[nodiscard]] skill::Skill& instance() const noexcept { return *instance_; }
     /// In the order in which the skill registered them.
     [[nodiscard]] const std::vector<std::reference_wrapper<const skill::Element::Class>>&
     elementClasses() const noexcept {
-        return _elementClasses;
+        return elementClasses_;
     }
     /// The library that holds the skill; empty for one that is linked into the program.
-    [[nodiscard]] const std::filesystem::path& library() const noexcept { return _library; }
+    [[nodiscard]] const std::filesystem::path& library() const noexcept { return library_; }
 
 private:
-    const skill::Skill::Class& _skillClass;
-    std::unique_ptr<skill::Skill> _instance;
-    std::vector<std::reference_wrapper<const skill::Element::Class>> _elementClasses;
-    std::filesystem::path _library;
+    const skill::Skill::Class& skillClass_;
+    std::unique_ptr<skill::Skill> instance_;
+    std::vector<std::reference_wrapper<const skill::Element::Class>> elementClasses_;
+    std::filesystem::path library_;
 };
 
 } // namespace corvane::workbench::host

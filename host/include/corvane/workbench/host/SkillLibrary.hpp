@@ -24,19 +24,19 @@ public:
     [[nodiscard]] static Result<SkillLibrary> open(const std::filesystem::path& path);
 
     /// The absolute path under which the library was opened.
-    [[nodiscard]] const std::filesystem::path& path() const noexcept { return _path; }
+    [[nodiscard]] const std::filesystem::path& path() const noexcept { return path_; }
     /// The library's skill classes, oldest first; never empty.
     [[nodiscard]] std::span<const std::reference_wrapper<const skill::Skill::Class>>
     skillClasses() const noexcept {
-        return _skillClasses;
+        return skillClasses_;
     }
 
 private:
     SkillLibrary(std::filesystem::path path,
                  std::vector<std::reference_wrapper<const skill::Skill::Class>> skillClasses);
 
-    std::filesystem::path _path;
-    std::vector<std::reference_wrapper<const skill::Skill::Class>> _skillClasses;
+    std::filesystem::path path_;
+    std::vector<std::reference_wrapper<const skill::Skill::Class>> skillClasses_;
 };
 
 } // namespace corvane::workbench::host

@@ -32,8 +32,8 @@ public:
     }
     void write(std::basic_string_view<Char> text) {
         if (text.size() <= static_cast<std::size_t>(end_ - position_)) {
-            position_ = std::char_traits<Char>::copy(position_, text.data(), text.size()) +
-                        text.size();
+            position_ =
+                std::char_traits<Char>::copy(position_, text.data(), text.size()) + text.size();
         } else {
             writeLarge(text);
         }

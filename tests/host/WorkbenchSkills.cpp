@@ -16,8 +16,8 @@ public:
     std::wstring displayName() const override { return L"Impostor"; }
     std::string_view version() const override { return "0"; }
     void registerElementClasses(Registry& registry) const override {
-        registry.registerElementClass(_own);
-        registry.registerElementClass(_taken);
+        registry.registerElementClass(own_);
+        registry.registerElementClass(taken_);
     }
     std::unique_ptr<skill::Skill> createSkill() const override {
         class Instance final : public skill::Skill {};
@@ -27,10 +27,10 @@ public:
 private:
     class ElementClass final : public skill::Element::Class {
     public:
-        ElementClass(std::string_view id, std::uint8_t number) : _id(id), _number(number) {}
-        std::string_view id() const override { return _id; }
+        ElementClass(std::string_view id, std::uint8_t number) : id_(id), number_(number) {}
+        std::string_view id() const override { return id_; }
         corvane::utils::core::Uuid uuid() const override {
-            return corvane::utils::core::Uuid({_number});
+            return corvane::utils::core::Uuid({number_});
         }
         std::wstring displayName() const override { return L""; }
         std::wstring description() const override { return L""; }
@@ -43,12 +43,12 @@ private:
         std::string defaultName() const override { return ""; }
 
     private:
-        std::string_view _id;
-        std::uint8_t _number;
+        std::string_view id_;
+        std::uint8_t number_;
     };
 
-    ElementClass _own{"own", 77};
-    ElementClass _taken{"point", 78};
+    ElementClass own_{"own", 77};
+    ElementClass taken_{"point", 78};
 };
 
 TEST_F(WorkbenchSkills, HoldWhatTheirClassesRegistered) {

@@ -25,7 +25,7 @@ class PropertyRecord {
 public:
     PropertyRecord(std::vector<std::string>& calls, std::string name,
                    bindings::PropertyController& controller, const BasicElementReference& reference)
-        : _subscription(controller.subscribe(
+        : subscription_(controller.subscribe(
               reference.propertyId(),
               {.value = [&calls, name](bindings::Action,
                                        std::size_t) { calls.push_back(name + " value"); },
@@ -33,7 +33,7 @@ public:
                .visibility = {}})) {}
 
 private:
-    bindings::PropertyController::Subscription _subscription;
+    bindings::PropertyController::Subscription subscription_;
 };
 
 class WorkbenchReferences : public WorkbenchTest {
@@ -508,15 +508,15 @@ TEST_F(WorkbenchReferences, CanBeSetThroughTheirEditableProperty) {
 /// Does something to the reference of a point while it is told of another one.
 class Saboteur final : public host::Observer {
 public:
-    explicit Saboteur(std::function<void()> action) : _action(std::move(action)) {}
+    explicit Saboteur(std::function<void()> action) : action_(std::move(action)) {}
     void referenceStateChanged(const BasicElementReference&) override {
-        if (_action) {
-            std::exchange(_action, nullptr)();
+        if (action_) {
+            std::exchange(action_, nullptr)();
         }
     }
 
 private:
-    std::function<void()> _action;
+    std::function<void()> action_;
 };
 
 TEST_F(WorkbenchReferences, ThatEndDuringTheAnnouncementDropOut) {

@@ -345,15 +345,15 @@ public:
 
 private:
     bool refill() override {
-        if (_refilled) {
+        if (refilled_) {
             throw std::system_error(std::make_error_code(std::errc::io_error),
                                     "cannot read failing");
         }
-        _refilled = true;
+        refilled_ = true;
         setBuffer(R"({"children": [)");
         return true;
     }
-    bool _refilled = false;
+    bool refilled_ = false;
 };
 
 TEST_F(WorkbenchLoad, LeavesTheTreeWhenReadingFails) {

@@ -171,19 +171,19 @@ TEST_F(WorkbenchEdit, RefusesToNestDeeperThanAFileCanHold) {
 class Meddler final : public corvane::workbench::host::Observer {
 public:
     explicit Meddler(WorkbenchEdit&, corvane::workbench::host::Workbench& workbench)
-        : _workbench(workbench) {}
+        : workbench_(workbench) {}
 
     void elementAdded(const ElementNode&) override {
-        reasons = {_workbench.add("", "leaf").error().text,
-                   _workbench.rename("a", "x").error().text,
-                   _workbench.move("a.b", "").error().text, _workbench.remove("a").error().text,
-                   _workbench.loadConfiguration("a.json").problems.front().text};
+        reasons = {workbench_.add("", "leaf").error().text,
+                   workbench_.rename("a", "x").error().text,
+                   workbench_.move("a.b", "").error().text, workbench_.remove("a").error().text,
+                   workbench_.loadConfiguration("a.json").problems.front().text};
     }
 
     std::vector<std::string> reasons;
 
 private:
-    corvane::workbench::host::Workbench& _workbench;
+    corvane::workbench::host::Workbench& workbench_;
 };
 
 TEST_F(WorkbenchEdit, IsRefusedWhileAnotherOneIsAnnounced) {
