@@ -42,7 +42,8 @@ endif()
 # Warnings belong to our own targets, not to those of the libraries we use.
 function(corvane_set_warnings target)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive-)
+        # Exported classes have members of the standard library: all sides share one runtime.
+        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- /wd4251 /wd4275)
         if(CORVANE_WARNINGS_AS_ERRORS)
             target_compile_options(${target} PRIVATE /WX)
         endif()

@@ -83,8 +83,7 @@ run_exports() {
     build windows --target write-exports
 }
 
-# Compiles everything with the other compiler and in the other language mode; running the tests once
-# with the other compiler's code is enough.
+# The tests with the other compiler, and everything but the tests in the other language mode.
 run_clang() {
     build clang
     ctest_of clang

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2154 # ./dev sets checkout, cache and root
 # Whether the same tests run on Linux and on Windows. Sourced by ./dev.
 # What runs on one of them only is named, with its reason, in tests/windows-differences.txt.
 
@@ -6,7 +7,7 @@ tests_of() {
     local folder=$1 runner=$2 program name
     for program in "$folder"/test-*; do
         name=$(basename "$program" .exe)
-        [ -x "$program" ] && [ -f "$program" ] || continue
+        if [ ! -f "$program" ] || [ ! -x "$program" ]; then continue; fi
         $runner "$program" --gtest_list_tests 2>/dev/null | tr -d '\r' | awk -v program="$name" '
             /^[^ ].*\.( |$)/ { suite = $1; next }
             /^  / { print program " " suite $1 }'
@@ -28,7 +29,7 @@ compare_platforms() {
     tests_of "$windows/bin" wine >"$place/built"
     skipped_in "$windows" >"$place/skipped"
     LC_ALL=C comm -23 "$place/built" "$place/skipped" >"$place/windows"
-    [ -s "$place/linux" ] && [ -s "$place/windows" ] || fail "there are no tests to compare"
+    if [ ! -s "$place/linux" ] || [ ! -s "$place/windows" ]; then fail "there are no tests to compare"; fi
 
     {
         LC_ALL=C comm -23 "$place/linux" "$place/windows" | sed 's/^/linux /'
