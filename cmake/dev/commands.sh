@@ -107,14 +107,7 @@ run_fuzz() {
     done
 }
 
-run_bench() {
-    local program
-    build bench
-    for program in "$checkout"/build/bench/bin/bench-*; do
-        say "$(basename "$program")"
-        "$program" "$@"
-    done
-}
+run_bench_build() { build bench >&2; }
 
 run_coverage() {
     build coverage

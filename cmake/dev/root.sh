@@ -89,14 +89,15 @@ in_environment() {
     fi
 }
 
-# Runs a program that was built, on this machine's own files; one from the root runs with the root's
-# loader and libraries.
+# on_this_machine PRESET PROGRAM ARGUMENT...: runs a program that was built, on this machine's own
+# files; one from the root runs with the root's loader and libraries.
 on_this_machine() {
-    local program=$checkout/build/tools/$1
-    shift
+    local libraries=$checkout/build/$1/bin program=$checkout/build/$1/bin/$2
+    shift 2
+    [ -x "$program" ] || fail "there is no program $(basename "$program")"
     if [ -n "${use_root:-}" ]; then
         exec "$root/lib64/ld-linux-x86-64.so.2" --argv0 "$program" \
-            --library-path "$checkout/build/tools/bin:$root/usr/lib/x86_64-linux-gnu" "$program" "$@"
+            --library-path "$libraries:$root/usr/lib/x86_64-linux-gnu" "$program" "$@"
     fi
     exec "$program" "$@"
 }
