@@ -83,7 +83,7 @@ run_exports() {
     build windows --target write-exports
 }
 
-# The tests with the other compiler, and everything but the tests in the other language mode.
+# The tests with the other compiler; then the other language mode, compiled only.
 run_clang() {
     build clang
     ctest_of clang
