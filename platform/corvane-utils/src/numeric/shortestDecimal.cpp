@@ -4,6 +4,8 @@
 // magnitudes answered here c × 5^p fits into 128 bits, so that all of this is exact.
 #include "shortestDecimal.hpp"
 
+#include "multiply.hpp"
+
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -13,22 +15,6 @@ namespace corvane::utils::numeric {
 namespace {
 
 constexpr int kSignificandBits = 52;
-
-struct Wide {
-    std::uint64_t high;
-    std::uint64_t low;
-};
-
-[[nodiscard]] constexpr Wide multiply(std::uint64_t left, std::uint64_t right) noexcept {
-    constexpr std::uint64_t half = 0xFFFF'FFFFU;
-    const std::uint64_t lowLow = (left & half) * (right & half);
-    const std::uint64_t lowHigh = (left & half) * (right >> 32U);
-    const std::uint64_t highLow = (left >> 32U) * (right & half);
-    const std::uint64_t highHigh = (left >> 32U) * (right >> 32U);
-    const std::uint64_t middle = (lowLow >> 32U) + (lowHigh & half) + (highLow & half);
-    return {highHigh + (lowHigh >> 32U) + (highLow >> 32U) + (middle >> 32U),
-            (middle << 32U) | (lowLow & half)};
-}
 
 /// floor(log10(2^exponent)), or floor(log10(3/4 × 2^exponent)), exact for every double.
 [[nodiscard]] constexpr int floorLog10(int exponent, bool threeQuarters) noexcept {
