@@ -27,17 +27,19 @@ namespace {
 
 using DoubleText = utils::string::BasicStaticString<char, 24>;
 
-/// A double that reads back as a double: whole numbers get ".0", or an exponent where that would
-/// not fit.
-DoubleText formatDouble(double number) {
+[[nodiscard]] bool isWhole(double number) noexcept {
+    // Beyond 2^53 every double is.
+    return !(std::abs(number) < 9007199254740992.0) ||
+           number == static_cast<double>(static_cast<std::int64_t>(number));
+}
+
+/// A whole number that reads back as a double: with ".0", or an exponent where that would not fit.
+DoubleText formatWhole(double number) {
     DoubleText text = utils::numeric::format(number);
     const auto isDigitOrSign = [](char character) {
         return (character >= '0' && character <= '9') || character == '-';
     };
-    // Beyond 2^53 every double is whole.
-    const bool isWhole = !(std::abs(number) < 9007199254740992.0) ||
-                         number == static_cast<double>(static_cast<std::int64_t>(number));
-    if (!isWhole || !std::ranges::all_of(text, isDigitOrSign)) {
+    if (!std::ranges::all_of(text, isDigitOrSign)) {
         return text;
     }
     constexpr std::string_view fraction = ".0";
@@ -51,8 +53,10 @@ DoubleText formatDouble(double number) {
 }
 
 void writeDouble(encoder::Value& target, double number) {
-    if (std::isfinite(number)) {
-        target.writeNumber(formatDouble(number));
+    if (!isWhole(number)) {
+        target.writeNumber(utils::numeric::format(number));
+    } else if (std::isfinite(number)) {
+        target.writeNumber(formatWhole(number));
     } else {
         target.writeNull();
     }

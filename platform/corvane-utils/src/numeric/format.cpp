@@ -2,41 +2,70 @@
 
 #include "shortestDecimal.hpp"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
-#include <optional>
-#include <string_view>
 
 namespace corvane::utils::numeric {
 
 namespace {
 
-/// "00" to "99".
-constexpr auto kPairs = [] {
-    std::array<char, 200> pairs{};
-    for (std::size_t number = 0; number < 100; ++number) {
-        pairs[2 * number] = static_cast<char>('0' + number / 10);
-        pairs[2 * number + 1] = static_cast<char>('0' + number % 10);
-    }
-    return pairs;
-}();
+/// Eight digits as numbers, a byte each, the first one lowest.
+using Digits = std::uint64_t;
 
-void writePair(char* to, std::uint32_t number) noexcept {
-    std::memcpy(to, &kPairs[2 * std::size_t{number}], 2);
+constexpr std::uint64_t kEightDigits = 100'000'000;
+constexpr std::size_t kBitsOfADigit = 8;
+
+/// @pre number < 10^8.
+[[nodiscard]] constexpr Digits splitIntoDigits(std::uint64_t number) noexcept {
+    // From one number of eight digits to two of four, four of two and eight of one, each half in
+    // a lane of its own. A lane with quotient q and remainder r becomes q + (r << width), which is
+    // (the lane << width) - q * ((divisor << width) - 1).
+    const std::uint64_t fours = (number << 32U) - number / 10'000 * ((10'000ULL << 32U) - 1);
+    const std::uint64_t hundreds = ((fours * 10'486) >> 20U) & 0x0000'007F'0000'007FU;
+    const std::uint64_t twos = (fours << 16U) - hundreds * ((100U << 16U) - 1);
+    const std::uint64_t tens = ((twos * 103) >> 10U) & 0x000F'000F'000F'000FU;
+    return (twos << 8U) - tens * ((10U << 8U) - 1);
 }
 
-/// Writes eight digits, zeros in front included.
-void writeEight(char* to, std::uint32_t number) noexcept {
-    const std::uint32_t high = number / 10'000;
-    const std::uint32_t low = number % 10'000;
-    writePair(to, high / 100);
-    writePair(to + 2, high % 100);
-    writePair(to + 4, low / 100);
-    writePair(to + 6, low % 100);
+static_assert(splitIntoDigits(12'345'678) == 0x0807'0605'0403'0201U);
+static_assert(splitIntoDigits(99'999'999) == 0x0909'0909'0909'0909U);
+
+/// Writes eight characters, from the lowest digit on; the caller counts those that matter.
+void writeDigits(char* to, Digits digits) noexcept {
+    const std::uint64_t characters = digits | 0x3030'3030'3030'3030U; // '0'
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(to, &characters, sizeof characters);
+    } else {
+        for (std::size_t index = 0; index != sizeof characters; ++index) {
+            to[index] = static_cast<char>(characters >> (index * kBitsOfADigit));
+        }
+    }
+}
+
+/// Writes a number below 10^8 without zeros in front; returns the end. Needs room for eight.
+char* writeUpToEight(char* to, std::uint64_t number) noexcept {
+    const Digits digits = splitIntoDigits(number);
+    constexpr Digits last = Digits{1} << (7 * kBitsOfADigit); // written even if it is a zero
+    const auto zeros = static_cast<std::size_t>(std::countr_zero(digits | last)) / kBitsOfADigit;
+    writeDigits(to, digits >> (zeros * kBitsOfADigit));
+    return to + (8 - zeros);
+}
+
+/// Writes a number without zeros in front; returns the end. Needs room for eight, or for all its
+/// digits if they are more.
+char* writeWhole(char* to, std::uint64_t number) noexcept {
+    if (number < kEightDigits) {
+        return writeUpToEight(to, number);
+    }
+    to = writeWhole(to, number / kEightDigits);
+    writeDigits(to, splitIntoDigits(number % kEightDigits));
+    return to + 8;
 }
 
 constexpr auto kPowersOf10 = [] {
@@ -47,47 +76,55 @@ constexpr auto kPowersOf10 = [] {
     return powers;
 }();
 
-[[nodiscard]] std::size_t countDigits(std::uint64_t number) noexcept {
-    // 1233 / 4096 is a little more than log10(2).
-    const auto estimate = static_cast<std::size_t>(std::bit_width(number)) * 1233 / 4096;
-    return estimate + (number >= kPowersOf10[estimate] ? 1 : 0);
+/// How many digits there are up to the last one that is not zero. @pre One is not.
+[[nodiscard]] std::size_t countUpToLast(Digits digits) noexcept {
+    return 8 - static_cast<std::size_t>(std::countl_zero(digits)) / kBitsOfADigit;
 }
 
-/// Writes that many digits of a number, zeros in front included.
-void writePadded(char* to, std::uint64_t number, std::size_t count) noexcept {
-    char* end = to + count;
-    for (; count >= 8; count -= 8) {
-        end -= 8;
-        writeEight(end, static_cast<std::uint32_t>(number % 100'000'000));
-        number /= 100'000'000;
-    }
-    auto rest = static_cast<std::uint32_t>(number);
-    for (; count >= 2; count -= 2) {
-        end -= 2;
-        writePair(end, rest % 100);
-        rest /= 100;
-    }
-    if (count == 1) {
-        *to = static_cast<char>('0' + rest);
-    }
+/// Writes that many places of a number up to the last one that is not zero; returns the end.
+/// Needs room for 16. @pre number != 0 and places <= 16.
+char* writePlaces(char* to, std::uint64_t number, std::size_t places) noexcept {
+    const std::uint64_t sixteen = number * kPowersOf10[16 - places];
+    const Digits first = splitIntoDigits(sixteen / kEightDigits);
+    const Digits second = splitIntoDigits(sixteen % kEightDigits);
+    writeDigits(to, first);
+    writeDigits(to + 8, second);
+    return to + (second == 0 ? countUpToLast(first) : 8 + countUpToLast(second));
 }
 
-/// Writes a number; returns the end.
-char* writeWhole(char* to, std::uint64_t number) noexcept {
-    const std::size_t count = countDigits(number | 1);
-    writePadded(to, number, count);
-    return to + count;
+/// As writePlaces() does, for up to 19 places. Needs room for 24.
+char* writeManyPlaces(char* to, std::uint64_t number, std::size_t places) noexcept {
+    if (places <= 16) {
+        return writePlaces(to, number, places);
+    }
+    const std::uint64_t divisor = kPowersOf10[places - 16];
+    const std::uint64_t rest = number % divisor;
+    if (rest == 0) {
+        return writePlaces(to, number / divisor, 16);
+    }
+    writeDigits(to, splitIntoDigits(number / divisor / kEightDigits));
+    writeDigits(to + 8, splitIntoDigits(number / divisor % kEightDigits));
+    return writePlaces(to + 16, rest, places - 16);
 }
 
-/// Writes digits × 10^exponent, -20 < exponent < 0, with a point: "12.5", "0.00125". The whole
-/// numbers below it are those below the number that it is the shortest decimal of.
-char* writeFixed(char* to, double number, const ShortestDecimal& decimal) noexcept {
+/// Writes a number that is not whole with a point: "12.5", "0.00125".
+/// @pre 0.001 <= number < 1e15, and whole is what is before its point.
+char* writeFixed(char* to, char* end, double number, std::uint64_t whole) noexcept {
+    const ShortestDecimal decimal = shortestDecimal(number);
     const auto places = static_cast<std::size_t>(-decimal.exponent);
-    const auto whole = static_cast<std::uint64_t>(number);
-    to = writeWhole(to, whole);
-    *to++ = '.';
-    writePadded(to, decimal.digits - whole * kPowersOf10[places], places);
-    return to + places;
+    // The whole numbers below the shortest decimal are those below the number itself.
+    const std::uint64_t fraction = decimal.digits - whole * kPowersOf10[places];
+    if (places <= 16 && end - to >= 6 + 1 + 16 && whole < 1'000'000) {
+        to = writeUpToEight(to, whole);
+        *to++ = '.';
+        return writePlaces(to, fraction, places);
+    }
+    // The text fits, but not what is written behind its end.
+    std::array<char, 15 + 1 + 16 + 16> text;
+    char* textEnd = writeWhole(text.data(), whole);
+    *textEnd++ = '.';
+    textEnd = writeManyPlaces(textEnd, fraction, places);
+    return std::copy(text.data(), textEnd, to);
 }
 
 } // namespace
@@ -114,13 +151,15 @@ string::BasicStaticString<char, 20> format(std::uint64_t number) {
 string::BasicStaticString<char, 24> format(double number) {
     string::BasicStaticString<char, 24> text;
     text.overwrite([number](char* begin, char* end) {
-        // For the magnitudes answered the plain notation is never the longer one.
+        // For these magnitudes the plain notation is never the longer one.
         const double magnitude = std::fabs(number);
-        if (const std::optional<ShortestDecimal> decimal = shortestDecimal(magnitude)) {
-            if (number < 0) {
-                *begin++ = '-';
+        if (magnitude >= 1e-3 && magnitude < 1e15) {
+            const auto whole = static_cast<std::int64_t>(magnitude);
+            if (static_cast<double>(whole) != magnitude) {
+                *begin = '-';
+                return writeFixed(begin + (number < 0 ? 1 : 0), end, magnitude,
+                                  static_cast<std::uint64_t>(whole));
             }
-            return writeFixed(begin, magnitude, *decimal);
         }
         // The capacity is that of the longest number, so the conversion cannot fail.
         return std::to_chars(begin, end, number).ptr;

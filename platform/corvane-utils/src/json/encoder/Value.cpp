@@ -1,41 +1,34 @@
 #include <corvane/utils/json/encoder/Value.hpp>
 
 #include <corvane/utils/json/encoder/Array.hpp>
-#include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 
 namespace corvane::utils::json::encoder {
 
+namespace {
+
+using Word = string::BasicStaticString<char, 5>;
+
+constexpr Word kTrue("true");
+constexpr Word kFalse("false");
+constexpr Word kNull("null");
+
+} // namespace
+
 Object Value::writeObject() {
-    document_->takeValue(ticket_);
-    document_->open(ticket_, true);
-    return Object(*document_, document_->levels_.size(), ticket_);
+    return Object(*writer_, writer_->openObject(ticket_));
 }
 
 Array Value::writeArray() {
-    document_->takeValue(ticket_);
-    document_->open(ticket_, false);
-    return Array(*document_, document_->levels_.size(), ticket_);
-}
-
-void Value::writeString(std::string_view text) {
-    document_->takeValue(ticket_);
-    document_->writeQuoted(text);
-}
-
-void Value::writeNumber(std::string_view number) {
-    document_->takeValue(ticket_);
-    document_->writePlain(number);
+    return Array(*writer_, writer_->openArray(ticket_));
 }
 
 void Value::writeBool(bool value) {
-    document_->takeValue(ticket_);
-    document_->stream_.write(value ? std::string_view("true") : std::string_view("false"));
+    writer_->writePlain(ticket_, value ? kTrue : kFalse);
 }
 
 void Value::writeNull() {
-    document_->takeValue(ticket_);
-    document_->stream_.write("null");
+    writer_->writePlain(ticket_, kNull);
 }
 
 } // namespace corvane::utils::json::encoder

@@ -1,11 +1,9 @@
 // An array that is being written. A small handle, valid while its Document lives.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
+#include <corvane/utils/json/encoder/detail/Writer.hpp>
 
 namespace corvane::utils::json::encoder {
 
@@ -14,17 +12,16 @@ public:
     /// Adds an element and returns its value, to be written next. Completes everything that is
     /// still open inside the array.
     /// @throws std::logic_error when the array is complete.
-    Value addElement();
+    Value addElement() { return Value(*writer_, writer_->addElement(container_)); }
 
 private:
     friend class Value;
 
-    Array(Document& document, std::size_t depth, std::uint64_t ticket) noexcept
-        : document_(&document), depth_(depth), ticket_(ticket) {}
+    Array(detail::Writer& writer, detail::Writer::Container container) noexcept
+        : writer_(&writer), container_(container) {}
 
-    Document* document_;
-    std::size_t depth_;
-    std::uint64_t ticket_;
+    detail::Writer* writer_;
+    detail::Writer::Container container_;
 };
 
 } // namespace corvane::utils::json::encoder

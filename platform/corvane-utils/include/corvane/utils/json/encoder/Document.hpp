@@ -4,14 +4,10 @@
 // document is used by one thread at a time.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <string_view>
-#include <vector>
-
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/io/OutputStream.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
+#include <corvane/utils/json/encoder/detail/Writer.hpp>
 
 namespace corvane::utils::json::encoder {
 
@@ -37,36 +33,7 @@ public:
     void close();
 
 private:
-    friend class Array;
-    friend class Object;
-    friend class Value;
-
-    /// An object or array that is still open, known by the ticket of the value that it is.
-    struct Level {
-        std::uint64_t ticket;
-        bool isObject;
-        bool isEmpty;
-    };
-
-    [[nodiscard]] Value addMember(std::size_t depth, std::uint64_t ticket, std::string_view name);
-    [[nodiscard]] Value addElement(std::size_t depth, std::uint64_t ticket);
-    void takeValue(std::uint64_t ticket);
-    void open(std::uint64_t ticket, bool isObject);
-    /// The container that something is to be added to, with all inside it closed.
-    [[nodiscard]] Level& enter(std::size_t depth, std::uint64_t ticket);
-    void separate(Level& level);
-    [[nodiscard]] Value expectValue() noexcept;
-    void closeDownTo(std::size_t depth);
-    void writeLineBreak();
-    void writePlain(std::string_view text);
-    void writeQuoted(std::string_view text);
-
-    io::OutputStream<char>& stream_;
-    Format format_;
-    std::vector<Level> levels_;
-    /// The value that is to be written next; 0 when there is none.
-    std::uint64_t pending_;
-    std::uint64_t lastTicket_;
+    detail::Writer writer_;
     bool isClosed_ = false;
 };
 

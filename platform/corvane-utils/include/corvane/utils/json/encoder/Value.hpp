@@ -2,10 +2,12 @@
 // written becomes null. A small handle, valid while its Document lives.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <string_view>
 
 #include <corvane/utils/export.hpp>
+#include <corvane/utils/json/encoder/detail/Writer.hpp>
+#include <corvane/utils/string/BasicStaticString.hpp>
 
 namespace corvane::utils::json::encoder {
 
@@ -22,20 +24,26 @@ public:
     Array writeArray();
     /// Writes a string (UTF-8). Only what must be escaped is escaped; malformed UTF-8 is written
     /// as U+FFFD once per maximal subpart, so that the document can always be read.
-    void writeString(std::string_view text);
+    void writeString(std::string_view text) { writer_->writeString(ticket_, text); }
     /// Writes a number as it stands. @pre number is a number by the rules of JSON.
-    void writeNumber(std::string_view number);
+    void writeNumber(std::string_view number) { writer_->writePlain(ticket_, number); }
+    template <std::size_t Capacity>
+    void writeNumber(const string::BasicStaticString<char, Capacity>& number) {
+        writer_->writePlain(ticket_, number);
+    }
     void writeBool(bool value);
     void writeNull();
 
 private:
+    friend class Array;
     friend class Document;
+    friend class Object;
 
-    Value(Document& document, std::uint64_t ticket) noexcept
-        : document_(&document), ticket_(ticket) {}
+    Value(detail::Writer& writer, detail::Writer::Ticket ticket) noexcept
+        : writer_(&writer), ticket_(ticket) {}
 
-    Document* document_;
-    std::uint64_t ticket_;
+    detail::Writer* writer_;
+    detail::Writer::Ticket ticket_;
 };
 
 } // namespace corvane::utils::json::encoder
