@@ -48,13 +48,38 @@ void writeDigits(char* to, Digits digits) noexcept {
     }
 }
 
+/// The digits of a number below 1000, followed by how many they are.
+using ShortNumber = std::array<char, 4>;
+
+constexpr auto kShortNumbers = [] {
+    std::array<ShortNumber, 1000> numbers{};
+    for (std::size_t number = 0; number != numbers.size(); ++number) {
+        const std::size_t count = number < 10 ? 1 : number < 100 ? 2 : 3;
+        std::size_t rest = number;
+        for (std::size_t index = count; index-- != 0; rest /= 10) {
+            numbers[number][index] = static_cast<char>('0' + rest % 10);
+        }
+        numbers[number].back() = static_cast<char>(count);
+    }
+    return numbers;
+}();
+
 /// Writes a number below 10^8 without zeros in front; returns the end. Needs room for eight.
 char* writeUpToEight(char* to, std::uint64_t number) noexcept {
+    if (number < kShortNumbers.size()) {
+        const ShortNumber& digits = kShortNumbers[static_cast<std::size_t>(number)];
+        std::memcpy(to, digits.data(), digits.size());
+        return to + digits.back();
+    }
     const Digits digits = splitIntoDigits(number);
-    constexpr Digits last = Digits{1} << (7 * kBitsOfADigit); // written even if it is a zero
-    const auto zeros = static_cast<std::size_t>(std::countr_zero(digits | last)) / kBitsOfADigit;
+    const auto zeros = static_cast<std::size_t>(std::countr_zero(digits)) / kBitsOfADigit;
     writeDigits(to, digits >> (zeros * kBitsOfADigit));
     return to + (8 - zeros);
+}
+
+char* writeEight(char* to, std::uint64_t number) noexcept {
+    writeDigits(to, splitIntoDigits(number));
+    return to + 8;
 }
 
 /// Writes a number without zeros in front; returns the end. Needs room for eight, or for all its
@@ -63,9 +88,14 @@ char* writeWhole(char* to, std::uint64_t number) noexcept {
     if (number < kEightDigits) {
         return writeUpToEight(to, number);
     }
-    to = writeWhole(to, number / kEightDigits);
-    writeDigits(to, splitIntoDigits(number % kEightDigits));
-    return to + 8;
+    const std::uint64_t high = number / kEightDigits;
+    if (high < kEightDigits) {
+        to = writeUpToEight(to, high);
+    } else {
+        to = writeUpToEight(to, high / kEightDigits);
+        to = writeEight(to, high % kEightDigits);
+    }
+    return writeEight(to, number % kEightDigits);
 }
 
 constexpr auto kPowersOf10 = [] {
@@ -102,9 +132,9 @@ char* writeManyPlaces(char* to, std::uint64_t number, std::size_t places) noexce
     if (rest == 0) {
         return writePlaces(to, number / divisor, 16);
     }
-    writeDigits(to, splitIntoDigits(number / divisor / kEightDigits));
-    writeDigits(to + 8, splitIntoDigits(number / divisor % kEightDigits));
-    return writePlaces(to + 16, rest, places - 16);
+    to = writeEight(to, number / divisor / kEightDigits);
+    to = writeEight(to, number / divisor % kEightDigits);
+    return writePlaces(to, rest, places - 16);
 }
 
 /// Writes a number that is not whole with a point: "12.5", "0.00125".

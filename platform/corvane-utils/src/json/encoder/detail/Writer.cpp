@@ -152,12 +152,12 @@ void writeEscape(io::OutputStream<char>& stream, char character) {
 } // namespace
 
 Writer::Writer(io::OutputStream<char>& stream, bool isIndented)
-    : stream_(stream), levels_{{kNone, '\0'}}, isIndented_(isIndented) {}
+    : stream_(stream), isIndented_(isIndented) {}
 
 Writer::~Writer() = default;
 
 Writer::Ticket Writer::addMember(Container object, std::string_view name) {
-    if (expected_ != object.ticket || isIndented_) {
+    if (expected_ != object.ticket || isIndented_) [[unlikely]] {
         enter(object);
     }
     // Most names are written whole and as they are, with all that is around them.
@@ -176,14 +176,6 @@ Writer::Ticket Writer::addMember(Container object, std::string_view name) {
     stream_.write(isIndented_ ? std::string_view(": ") : std::string_view(":"));
     commaIsDue_ = false;
     return expectValue();
-}
-
-Writer::Container Writer::openObject(Ticket value) {
-    return open(value, '{', '}');
-}
-
-Writer::Container Writer::openArray(Ticket value) {
-    return open(value, '[', ']');
 }
 
 void Writer::writeString(Ticket value, std::string_view text) {
@@ -220,45 +212,81 @@ void Writer::throwWritten() {
     throw std::logic_error("the JSON value has been written already");
 }
 
+void Writer::throwComplete() {
+    throw std::logic_error("the JSON object or array is complete already");
+}
+
 void Writer::enter(Container container) {
     const auto [depth, ticket] = container;
-    if (depth >= levels_.size() || levels_[depth].ticket != ticket) {
-        throw std::logic_error("the JSON object or array is complete already");
+    if (depth > levels_.depth() || levels_.at(depth).ticket != ticket) {
+        throwComplete();
     }
     if (expected_ != ticket) {
         closeDownTo(depth);
     }
-    if (isIndented_) {
+    if (isIndented_) [[unlikely]] {
         writeDueComma();
         commaIsDue_ = false;
         writeLineBreak();
     }
 }
 
+// What every token goes through ends with the call of what is rare, so that it has no registers to
+// save.
+
 Writer::Container Writer::open(Ticket value, char begin, char end) {
+    char* const room = stream_.prepare(2);
+    if (room == nullptr) [[unlikely]] {
+        return openSlowly(value, begin, end);
+    }
     take(value);
-    writeDueComma();
-    stream_.put(begin);
+    const std::size_t comma = putDueComma(room);
+    room[comma] = begin;
+    stream_.commit(comma + 1);
+    return addLevel(value, end);
+}
+
+Writer::Container Writer::openSlowly(Ticket value, char begin, char end) {
+    writePlain(value, {&begin, 1});
+    return addLevel(value, end);
+}
+
+Writer::Container Writer::addLevel(Ticket value, char end) {
     commaIsDue_ = false;
     expected_ = value + 1;
-    levels_.push_back({expected_, end});
-    return {levels_.size() - 1, expected_};
+    levels_.push({expected_, end});
+    return {levels_.depth(), expected_};
 }
 
 void Writer::closeDownTo(std::size_t depth) {
+    const std::size_t count = levels_.depth() - depth;
+    char* const room = stream_.prepare(count);
+    if (room == nullptr || isIndented_ || isValue(expected_)) [[unlikely]] {
+        return closeSlowly(depth);
+    }
+    for (std::size_t index = 0; index != count; ++index) {
+        room[index] = levels_.at(depth + count - index).end;
+    }
+    stream_.commit(count);
+    commaIsDue_ = true;
+    levels_.popTo(depth);
+    expected_ = levels_.innermost().ticket;
+}
+
+void Writer::closeSlowly(std::size_t depth) {
     if (isValue(expected_)) {
         writePlain(expected_, "null");
     }
-    while (levels_.size() > depth + 1) {
-        const char end = levels_.back().end;
-        levels_.pop_back();
+    while (levels_.depth() != depth) {
+        const char end = levels_.innermost().end;
+        levels_.popTo(levels_.depth() - 1);
         if (isIndented_ && commaIsDue_) {
             writeLineBreak();
         }
         stream_.put(end);
         commaIsDue_ = true;
     }
-    expected_ = levels_.back().ticket;
+    expected_ = levels_.innermost().ticket;
 }
 
 void Writer::writeDueComma() {
@@ -269,7 +297,7 @@ void Writer::writeDueComma() {
 
 void Writer::writeLineBreak() {
     stream_.put('\n');
-    for (std::size_t level = 1; level != levels_.size(); ++level) {
+    for (std::size_t level = 0; level != levels_.depth(); ++level) {
         stream_.write("  ");
     }
 }

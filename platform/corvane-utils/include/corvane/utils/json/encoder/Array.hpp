@@ -24,4 +24,8 @@ private:
     detail::Writer::Container container_;
 };
 
+inline Array Value::writeArray() {
+    return Array(*writer_, writer_->open(ticket_, '[', ']'));
+}
+
 } // namespace corvane::utils::json::encoder

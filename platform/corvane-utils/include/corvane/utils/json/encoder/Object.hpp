@@ -28,4 +28,8 @@ private:
     detail::Writer::Container container_;
 };
 
+inline Object Value::writeObject() {
+    return Object(*writer_, writer_->open(ticket_, '{', '}'));
+}
+
 } // namespace corvane::utils::json::encoder

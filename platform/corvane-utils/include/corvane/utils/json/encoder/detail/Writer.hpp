@@ -2,14 +2,14 @@
 // open, and what may be written next. Nothing here is called but through them.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
-#include <vector>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/io/OutputStream.hpp>
+#include <corvane/utils/json/encoder/detail/Levels.hpp>
 #include <corvane/utils/string/BasicStaticString.hpp>
 
 namespace corvane::utils::json::encoder::detail {
@@ -37,28 +37,28 @@ public:
     /// returns the ticket of its value.
     [[nodiscard]] Ticket addMember(Container object, std::string_view name);
     [[nodiscard]] Ticket addElement(Container array) {
-        if (expected_ != array.ticket || isIndented_) {
+        if (expected_ != array.ticket || isIndented_) [[unlikely]] {
             enter(array);
         }
         return expectValue();
     }
 
-    [[nodiscard]] Container openObject(Ticket value);
-    [[nodiscard]] Container openArray(Ticket value);
+    /// Makes the value an object or array, by the characters that it begins and ends with.
+    [[nodiscard]] Container open(Ticket value, char begin, char end);
     void writeString(Ticket value, std::string_view text);
     /// Writes a text that is neither quoted nor escaped.
     void writePlain(Ticket value, std::string_view text);
     template <std::size_t Capacity>
     void writePlain(Ticket value, const string::BasicStaticString<char, Capacity>& text) {
         char* const room = stream_.prepare(1 + Capacity);
-        if (room == nullptr) {
+        if (room == nullptr) [[unlikely]] {
             return writePlain(value, text.view());
         }
         take(value);
         const std::size_t comma = putDueComma(room);
         commaIsDue_ = true;
         // All of the capacity: a copy of constant length takes no call and no loop.
-        std::copy_n(text.data(), Capacity, room + comma);
+        std::char_traits<char>::copy(room + comma, text.data(), Capacity);
         stream_.commit(comma + text.size());
     }
 
@@ -66,16 +66,8 @@ public:
     void close();
 
 private:
-    /// An object or array that is open. The first level is the document itself.
-    struct Level {
-        Ticket ticket;
-        char end;
-    };
-
-    static constexpr Ticket kNone = 0;
-
     [[nodiscard]] static bool isValue(Ticket ticket) noexcept {
-        return ticket != kNone && ticket % 2 == 0;
+        return ticket != 0 && ticket % 2 == 0;
     }
 
     [[nodiscard]] Ticket expectValue() noexcept {
@@ -87,7 +79,7 @@ private:
         if (expected_ != value) {
             throwWritten();
         }
-        expected_ = levels_.back().ticket;
+        expected_ = levels_.innermost().ticket;
     }
     /// Returns how many characters it has written. @pre There is room for one.
     [[nodiscard]] std::size_t putDueComma(char* room) const noexcept {
@@ -95,18 +87,22 @@ private:
         return commaIsDue_ ? 1 : 0;
     }
     [[noreturn]] static void throwWritten();
+    [[noreturn]] static void throwComplete();
 
+    [[nodiscard]] Container openSlowly(Ticket value, char begin, char end);
+    [[nodiscard]] Container addLevel(Ticket value, char end);
     /// Has something be added to the container next, with all inside it closed.
     void enter(Container container);
-    [[nodiscard]] Container open(Ticket value, char begin, char end);
+    /// @pre Something is to be closed.
     void closeDownTo(std::size_t depth);
+    void closeSlowly(std::size_t depth);
     /// As putDueComma() does, whether there is room or not.
     void writeDueComma();
     void writeLineBreak();
     void writeEscaped(std::string_view text);
 
     io::OutputStream<char>& stream_;
-    std::vector<Level> levels_;
+    Levels levels_;
     /// What may be used next without closing anything: the value that is to be written, else the
     /// innermost container.
     Ticket expected_ = kRoot;
