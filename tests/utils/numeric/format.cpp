@@ -121,6 +121,72 @@ TEST(Format, WritesTheSameAsTheStandardLibrary) {
     }
 }
 
+TEST(Format, WritesTheSameAsTheStandardLibraryForAllMagnitudesOfConfigurations) {
+    std::mt19937_64 random(20240509);
+    const auto expectStandardText = [](double number) {
+        std::array<char, 32> text{};
+        const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+        ASSERT_EQ(format(number).view(),
+                  std::string_view(text.data(), static_cast<std::size_t>(end - text.data())));
+    };
+    for (int round = 0; round != 100'000; ++round) {
+        // From 2^-12 to 2^52, with all digits that there can be.
+        const std::uint64_t exponent = 1023 - 12 + random() % 64;
+        expectStandardText(std::bit_cast<double>((exponent << 52U) | (random() >> 12U)));
+    }
+    // As many digits before the point as there can be, and as many behind it.
+    for (double power = 1e-4; power < 1e17; power *= 10) {
+        for (double places = 1; places < 1e18; places *= 10) {
+            for (const double digits : {1.0, 5.0, 9.0, 12.0, 99.0}) {
+                expectStandardText(power + digits / places);
+                expectStandardText(power - digits / places);
+                expectStandardText(-power - digits / places);
+            }
+        }
+    }
+}
+
+TEST(Format, WritesWholePartsAndPlacesOfEveryLength) {
+    EXPECT_EQ(format(0.5), "0.5");
+    EXPECT_EQ(format(-9.25), "-9.25");
+    EXPECT_EQ(format(99.125), "99.125");
+    EXPECT_EQ(format(999.0625), "999.0625");
+    EXPECT_EQ(format(1000.0625), "1000.0625");
+    EXPECT_EQ(format(-999999.03125), "-999999.03125");
+    EXPECT_EQ(format(-1000000.03125), "-1000000.03125");
+    EXPECT_EQ(format(99999999.015625), "99999999.015625");
+    EXPECT_EQ(format(100000000.015625), "100000000.015625");
+    EXPECT_EQ(format(-123456789012345.62), "-123456789012345.62");
+    EXPECT_EQ(format(999999999999999.9), "999999999999999.9");
+    EXPECT_EQ(format(-123456.78901234567), "-123456.78901234567");
+    EXPECT_EQ(format(1.0000000000000002), "1.0000000000000002");
+    EXPECT_EQ(format(0.12345678901234568), "0.12345678901234568");
+    EXPECT_EQ(format(-0.012345678901234568), "-0.012345678901234568");
+    EXPECT_EQ(format(0.0012345678901234567), "0.0012345678901234567");
+    EXPECT_EQ(format(-0.0010000000000000002), "-0.0010000000000000002");
+    EXPECT_EQ(format(0.30000001), "0.30000001");
+    EXPECT_EQ(format(0.3000000100000001), "0.3000000100000001");
+    EXPECT_EQ(format(0.00000000099), "9.9e-10");
+}
+
+TEST(Format, WritesIntegersAsTheStandardLibraryDoes) {
+    const auto expectStandardText = [](std::uint64_t number) {
+        ASSERT_EQ(format(number), std::to_string(number));
+        const auto negated = static_cast<std::int64_t>(0 - number);
+        ASSERT_EQ(format(negated), std::to_string(negated));
+    };
+    for (std::uint64_t number = 0; number != 20'000; ++number) {
+        expectStandardText(number);
+        expectStandardText(number * 10'000);
+        expectStandardText(std::numeric_limits<std::uint64_t>::max() - number);
+        expectStandardText((std::uint64_t{1} << 63U) - number);
+    }
+    std::mt19937_64 random(20240510);
+    for (int round = 0; round != 20'000; ++round) {
+        expectStandardText(random() >> (random() % 64));
+    }
+}
+
 TEST(Format, WritesIntegersOfEveryLength) {
     std::uint64_t number = 0;
     std::string text;

@@ -137,14 +137,14 @@ char* writeManyPlaces(char* to, std::uint64_t number, std::size_t places) noexce
     return writePlaces(to, rest, places - 16);
 }
 
-/// Writes a number that is not whole with a point: "12.5", "0.00125".
+/// Writes a number that is not whole with a point: "12.5", "0.00125". Needs room for 23.
 /// @pre 0.001 <= number < 1e15, and whole is what is before its point.
-char* writeFixed(char* to, char* end, double number, std::uint64_t whole) noexcept {
+char* writeFixed(char* to, double number, std::uint64_t whole) noexcept {
     const ShortestDecimal decimal = shortestDecimal(number);
     const auto places = static_cast<std::size_t>(-decimal.exponent);
     // The whole numbers below the shortest decimal are those below the number itself.
     const std::uint64_t fraction = decimal.digits - whole * kPowersOf10[places];
-    if (places <= 16 && end - to >= 6 + 1 + 16 && whole < 1'000'000) {
+    if (places <= 16 && whole < 1'000'000) {
         to = writeUpToEight(to, whole);
         *to++ = '.';
         return writePlaces(to, fraction, places);
@@ -187,7 +187,7 @@ string::BasicStaticString<char, 24> format(double number) {
             const auto whole = static_cast<std::int64_t>(magnitude);
             if (static_cast<double>(whole) != magnitude) {
                 *begin = '-';
-                return writeFixed(begin + (number < 0 ? 1 : 0), end, magnitude,
+                return writeFixed(begin + (number < 0 ? 1 : 0), magnitude,
                                   static_cast<std::uint64_t>(whole));
             }
         }

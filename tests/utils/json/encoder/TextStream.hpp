@@ -1,15 +1,18 @@
-// An output stream into a string, with a buffer so small that every text crosses its end.
+// An output stream into a string, by default with a buffer so small that every text crosses its
+// end.
 #pragma once
 
 #include <corvane/utils/io/OutputStream.hpp>
 
-#include <array>
+#include <cstddef>
 #include <string>
 
 namespace corvane::tests {
 
 class TextStream : public utils::io::OutputStream<char> {
 public:
+    explicit TextStream(std::size_t bufferSize = 7) : buffer_(bufferSize, '\0') {}
+
     [[nodiscard]] std::string description() const override { return "text"; }
 
     /// What has been flushed.
@@ -21,7 +24,7 @@ private:
         setBuffer(buffer_.data(), buffer_.data(), buffer_.data() + buffer_.size());
     }
 
-    std::array<char, 7> buffer_{};
+    std::string buffer_;
 };
 
 } // namespace corvane::tests

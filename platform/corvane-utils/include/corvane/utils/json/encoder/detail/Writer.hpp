@@ -89,6 +89,8 @@ private:
     [[noreturn]] static void throwWritten();
     [[noreturn]] static void throwComplete();
 
+    [[nodiscard]] Ticket addMemberSlowly(std::string_view name);
+    void writeStringSlowly(std::string_view text);
     [[nodiscard]] Container openSlowly(Ticket value, char begin, char end);
     [[nodiscard]] Container addLevel(Ticket value, char end);
     /// Has something be added to the container next, with all inside it closed.
@@ -99,7 +101,6 @@ private:
     /// As putDueComma() does, whether there is room or not.
     void writeDueComma();
     void writeLineBreak();
-    void writeEscaped(std::string_view text);
 
     io::OutputStream<char>& stream_;
     Levels levels_;
