@@ -9,7 +9,7 @@ set(CMAKE_CROSSCOMPILING_EMULATOR wine)
 # Header-only packages come through a folder of links: the system's include folder would bring the
 # host's C library along.
 set(links "${CMAKE_BINARY_DIR}/header-links")
-foreach(header IN ITEMS boost tl CLI)
+foreach(header IN ITEMS tl CLI)
     if(EXISTS "/usr/include/${header}" AND NOT EXISTS "${links}/include/${header}")
         file(MAKE_DIRECTORY "${links}/include")
         file(CREATE_LINK "/usr/include/${header}" "${links}/include/${header}" SYMBOLIC)

@@ -88,14 +88,6 @@ void Array::decode(decoder::Array& source, DecodingOptions) {
     *this = std::move(decoded);
 }
 
-void Array::decodeElements(decoder::Array& source) {
-    m_elements.reserve(source.elementCount());
-    for (decoder::Value& element : source) {
-        // Nested values are read with default options, whatever holds for the outermost one.
-        m_elements.emplace_back().decodeContent(element, {});
-    }
-}
-
 void Array::encode(encoder::Value& target) const {
     encoder::Array array = target.writeArray();
     encode(array);

@@ -1,6 +1,5 @@
 #include <corvane/workbench/json/Object.hpp>
 
-#include "internal/MemberIndex.hpp"
 #include "internal/text.hpp"
 #include "internal/throwAt.hpp"
 
@@ -14,22 +13,12 @@
 #include <algorithm>
 #include <format>
 #include <stdexcept>
-#include <tuple>
 #include <utility>
 
 namespace corvane::workbench::json {
 
 namespace decoder = utils::json::decoder;
 namespace encoder = utils::json::encoder;
-
-namespace {
-
-[[noreturn]] void throwDuplicateMember(const decoder::Name& name) {
-    internal::throwAt(name.location(), std::runtime_error(std::format(
-                                           "duplicate member \"{}\" in JSON object", name.text())));
-}
-
-} // namespace
 
 constinit const Object::CorvaneElementFilter Object::kCorvaneElementFilter{};
 
@@ -137,26 +126,6 @@ void Object::decodeInternal(decoder::Value& source, MemberFilter filter, Decodin
 void Object::decodeInternal(decoder::Object& source, MemberFilter filter, DecodingOptions options) {
     source.addFilter(filter);
     decode(source, options);
-}
-
-void Object::decodeMembers(decoder::Object& source, DecodingOptions options) {
-    m_members.reserve(source.memberCount());
-    internal::MemberIndex index(m_members, source.memberCount());
-    for (const decoder::Member& member : source) {
-        const std::string_view name = member.name.text();
-        const std::size_t position = index.findOrEnter(name);
-        // Nested values are read with default options, whatever holds for the outermost one.
-        if (position == internal::MemberIndex::kNone) {
-            m_members
-                .emplace_back(std::piecewise_construct, std::forward_as_tuple(name),
-                              std::forward_as_tuple())
-                .second.decodeContent(member.value, {});
-        } else if (options.allowDuplicateMembers) {
-            m_members[position].second.decode(member.value);
-        } else {
-            throwDuplicateMember(member.name);
-        }
-    }
 }
 
 void Object::encode(encoder::Value& target) const {

@@ -1,7 +1,6 @@
 #include <corvane/workbench/json/Value.hpp>
 
 #include "internal/text.hpp"
-#include "internal/throwAt.hpp"
 
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
@@ -185,52 +184,6 @@ bool Value::operator==(const Value& other) const {
         break;
     }
     return true;
-}
-
-void Value::decode(decoder::Value& source, DecodingOptions options) {
-    Value decoded;
-    decoded.decodeContent(source, options);
-    *this = std::move(decoded);
-}
-
-void Value::decodeContent(decoder::Value& source, DecodingOptions options) {
-    if (source.isObject()) {
-        decoder::Object object = source.asObject();
-        std::construct_at(&m_object);
-        m_kind = Kind::Object;
-        m_object.decodeMembers(object, options);
-    } else if (source.isArray()) {
-        decoder::Array array = source.asArray();
-        std::construct_at(&m_array);
-        m_kind = Kind::Array;
-        m_array.decodeElements(array);
-    } else {
-        decodeScalar(source);
-    }
-}
-
-void Value::decodeScalar(decoder::Value& source) {
-    if (source.isString()) {
-        makeText(source.asString().view());
-    } else if (source.isNumber()) {
-        const decoder::Value::Number number = source.asNumber();
-        if (const auto* const signedInteger = std::get_if<std::int64_t>(&number)) {
-            m_signedInteger = *signedInteger;
-            m_kind = Kind::SignedInteger;
-        } else if (const auto* const unsignedInteger = std::get_if<std::uint64_t>(&number)) {
-            m_unsignedInteger = *unsignedInteger;
-            m_kind = Kind::UnsignedInteger;
-        } else {
-            m_double = *std::get_if<double>(&number);
-            m_kind = Kind::Double;
-        }
-    } else if (source.isBool()) {
-        m_boolean = source.asBool();
-        m_kind = Kind::Boolean;
-    } else if (!source.isNull()) {
-        internal::throwAt(source.location(),
-                          std::logic_error("internal_error: unsupported JSON value type"));
-    }
 }
 
 void Value::encode(encoder::Value& target) const {

@@ -143,7 +143,8 @@ private:
 
     /// Decodes into a value that is null and is of no use after an exception.
     void decodeContent(utils::json::decoder::Value& source, DecodingOptions options);
-    void decodeScalar(utils::json::decoder::Value& source);
+    void decodeNumber(const utils::json::decoder::Value& source);
+    void decodeContainer(utils::json::decoder::Value& source, DecodingOptions options);
 
     template <class T>
     static constexpr Kind kKindOf = [] {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <type_traits>
 
@@ -51,6 +52,26 @@ TEST(JsonDecoderDocument, FinishesBehindBlanksOnly) {
               "2:3 JSON syntax error (line 2): unexpected text after the end of the value");
     EXPECT_EQ(syntaxError(std::string("[1]\0", 4)),
               "1:4 JSON syntax error (line 1): unexpected text after the end of the value");
+}
+
+TEST(JsonDecoderDocument, ReadsTextThatIsUnevenlyDense) {
+    // Room for tokens is made by what was met so far.
+    std::string numbers;
+    for (int number = 0; number != 20000; ++number) {
+        numbers += std::to_string(number % 10) + ",";
+    }
+    const std::string gap = "\"" + std::string(100000, 'x') + "\"";
+    ParsedText denseAtTheEnd("[" + gap + "," + numbers + gap + "]");
+    ParsedText denseAtTheBeginning("[" + numbers + gap + "," + gap + "]");
+    for (ParsedText* const text : {&denseAtTheEnd, &denseAtTheBeginning}) {
+        auto array = text->root().asArray();
+        EXPECT_EQ(array.elementCount(), 20002U);
+        std::int64_t sum = 0;
+        for (const auto& value : array) {
+            sum += value.isNumber() ? value.asInt64() : 1000;
+        }
+        EXPECT_EQ(sum, 92000);
+    }
 }
 
 TEST(JsonDecoderDocument, AcceptsFiveHundredAndTwelveLevels) {

@@ -55,6 +55,32 @@ void collect(const Value& value, std::vector<Location>& to) {
     }
 }
 
+TEST(JsonDecoderLocation, IsExactForContainersBehindEveryKindOfToken) {
+    ParsedText text("[[1],\"[{\",[11],\"\\\"[\\\\\",[22],-1.5e3,[34],true,[44],null,[54],{},[62],"
+                    "[[],[72]],{\"[\":[82],\"\\n[\":[94]}]");
+    int arrays = 0;
+    const auto check = [&](const auto& self, const Value& value) -> void {
+        if (value.isArray()) {
+            auto array = value.asArray();
+            for (const Value& element : array) {
+                if (element.isNumber() && array.elementCount() == 1) {
+                    // "[" stands one column in front of the number.
+                    EXPECT_EQ(value.location().column() + 1, element.location().column());
+                    ++arrays;
+                }
+                self(self, element);
+            }
+        } else if (value.isObject()) {
+            auto object = value.asObject();
+            for (const auto [name, member] : object) {
+                self(self, member);
+            }
+        }
+    };
+    check(check, text.root());
+    EXPECT_EQ(arrays, 10);
+}
+
 TEST(JsonDecoderLocation, IsExactForEveryKindOfToken) {
     ParsedText text("{\n"
                     "  \"a\": [1, -2.5e1, \"x\"],\n"

@@ -3,7 +3,7 @@
 namespace corvane::utils::json::decoder {
 
 Location Array::location() const {
-    return tape_->locate((*tape_)[index_].offset);
+    return tape_->location(index_);
 }
 
 } // namespace corvane::utils::json::decoder

@@ -1,12 +1,13 @@
 #include <corvane/utils/json/decoder/Document.hpp>
 
-#include "tokenise.hpp"
+#include "Scanner.hpp"
+#include "blanks.hpp"
+#include "syntaxError.hpp"
 
 namespace corvane::utils::json::decoder {
 
 Document::Document(io::InputStream<char>& stream)
-    : tape_(stream.readRest(storage_)), rootEnd_(detail::tokenise(tape_, kMaximumDepth)),
-      root_(tape_, 0) {}
+    : tape_(stream.readRest(storage_)), rootEnd_(detail::Scanner(tape_).scan()), root_(tape_, 0) {}
 
 Document::~Document() = default;
 

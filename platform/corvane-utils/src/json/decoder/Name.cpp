@@ -3,7 +3,7 @@
 namespace corvane::utils::json::decoder {
 
 Location Name::location() const {
-    return tape_ != nullptr ? tape_->locate(offset_) : location_;
+    return tape_ != nullptr ? tape_->location(index_) : location_;
 }
 
 } // namespace corvane::utils::json::decoder

@@ -4,10 +4,8 @@
 
 namespace corvane::utils::json::decoder {
 
-Object::~Object() = default;
-
 Location Object::location() const {
-    return tape_->locate((*tape_)[index_].offset);
+    return tape_->location(index_);
 }
 
 bool Object::isConsumed() {

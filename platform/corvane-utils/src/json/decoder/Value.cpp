@@ -7,8 +7,6 @@
 #include <string>
 #include <utility>
 
-#include <corvane/utils/json/decoder/Array.hpp>
-#include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/detail/WrappedException.hpp>
 
 namespace corvane::utils::json::decoder {
@@ -35,8 +33,8 @@ namespace {
 template <class T>
 class IntegerConversion {
 public:
-    IntegerConversion(const detail::Tape& tape, const detail::Token& token) noexcept
-        : tape_(tape), token_(token) {}
+    IntegerConversion(const detail::Tape& tape, std::uint32_t index) noexcept
+        : tape_(tape), index_(index) {}
 
     template <class Integer>
     [[nodiscard]] T operator()(Integer number) const {
@@ -61,12 +59,12 @@ public:
 
 private:
     [[noreturn]] void fail(std::string_view reason) const {
-        throwRangeError(tape_.locate(token_.offset), numberText(tape_.text.substr(token_.offset)),
+        throwRangeError(tape_.location(index_), numberText(tape_.text.substr(tape_.offset(index_))),
                         reason);
     }
 
     const detail::Tape& tape_;
-    const detail::Token& token_;
+    std::uint32_t index_;
 };
 
 } // namespace
@@ -93,26 +91,12 @@ std::string_view Value::kindName() const noexcept {
     return "null";
 }
 
-Object Value::asObject() const {
-    if (!isObject()) {
-        throwUnexpected("an object");
-    }
-    return Object(*tape_, index_);
-}
-
-Array Value::asArray() const {
-    if (!isArray()) {
-        throwUnexpected("an array");
-    }
-    return Array(*tape_, index_);
-}
-
 std::int64_t Value::asInt64() const {
-    return std::visit(IntegerConversion<std::int64_t>(*tape_, (*tape_)[index_]), asNumber());
+    return std::visit(IntegerConversion<std::int64_t>(*tape_, index_), asNumber());
 }
 
 std::uint64_t Value::asUInt64() const {
-    return std::visit(IntegerConversion<std::uint64_t>(*tape_, (*tape_)[index_]), asNumber());
+    return std::visit(IntegerConversion<std::uint64_t>(*tape_, index_), asNumber());
 }
 
 double Value::asDouble() const {
@@ -120,7 +104,7 @@ double Value::asDouble() const {
 }
 
 Location Value::location() const {
-    return tape_->locate((*tape_)[index_].offset);
+    return tape_->location(index_);
 }
 
 void Value::throwUnexpected(std::string_view expected) const {

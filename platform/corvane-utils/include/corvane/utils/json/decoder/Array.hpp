@@ -58,12 +58,20 @@ private:
     friend class Value;
 
     Array(const detail::Tape& tape, std::uint32_t index) noexcept
-        : tape_(&tape), index_(index), behind_(tape.behind(index)), value_(tape, index + 1) {}
+        : tape_(&tape), index_(index), behind_(tape.behind(index)),
+          value_(tape, detail::Tape::within(index)) {}
 
     const detail::Tape* tape_;
     std::uint32_t index_;
     std::uint32_t behind_;
     Value value_;
 };
+
+inline Array Value::asArray() const {
+    if (!isArray()) {
+        throwUnexpected("an array");
+    }
+    return Array(*tape_, index_);
+}
 
 } // namespace corvane::utils::json::decoder

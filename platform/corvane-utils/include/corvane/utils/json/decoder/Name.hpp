@@ -2,7 +2,7 @@
 // comes from a Document is valid while the document lives.
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include <corvane/utils/export.hpp>
@@ -34,11 +34,11 @@ private:
 
     Name() noexcept = default;
     Name(const detail::Tape& tape, std::uint32_t index) noexcept
-        : text_(tape.string(index)), tape_(&tape), offset_(tape[index].offset) {}
+        : text_(tape.string(index)), tape_(&tape), index_(index) {}
 
     std::string_view text_;
     const detail::Tape* tape_ = nullptr;
-    std::size_t offset_ = 0;
+    std::uint32_t index_ = 0;
     Location location_;
 };
 

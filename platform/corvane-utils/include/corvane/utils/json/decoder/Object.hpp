@@ -51,7 +51,7 @@ public:
 
     Object(const Object&) = delete;
     Object& operator=(const Object&) = delete;
-    ~Object();
+    ~Object() = default;
 
     /// Has the filter called for every member that the walk has not reached yet. Filters are
     /// called in the order in which they were added until one consumes the member, which is then
@@ -79,8 +79,8 @@ private:
     friend class Value;
 
     Object(const detail::Tape& tape, std::uint32_t index) noexcept
-        : tape_(&tape), index_(index), next_(index + 1), behind_(tape.behind(index)),
-          value_(tape, index) {}
+        : tape_(&tape), index_(index), next_(detail::Tape::within(index)),
+          behind_(tape.behind(index)), value_(tape, index) {}
 
     void advance() {
         do {
@@ -105,5 +105,12 @@ private:
     Value value_;
     std::vector<Filter> filters_;
 };
+
+inline Object Value::asObject() const {
+    if (!isObject()) {
+        throwUnexpected("an object");
+    }
+    return Object(*tape_, index_);
+}
 
 } // namespace corvane::utils::json::decoder

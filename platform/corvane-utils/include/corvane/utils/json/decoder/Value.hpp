@@ -48,7 +48,7 @@ public:
     /// "a boolean", "null".
     [[nodiscard]] std::string_view kindName() const noexcept;
 
-    /// Each call begins a walk of its own.
+    /// Each call begins a walk of its own. Defined in Object.hpp and Array.hpp.
     [[nodiscard]] Object asObject() const;
     [[nodiscard]] Array asArray() const;
 
@@ -65,14 +65,13 @@ public:
         return kind() == detail::TokenKind::True;
     }
     [[nodiscard]] Number asNumber() const {
-        const std::uint64_t bits = (*tape_)[index_].payload;
         switch (kind()) {
         case detail::TokenKind::Int64:
-            return std::bit_cast<std::int64_t>(bits);
+            return std::bit_cast<std::int64_t>(tape_->bits(index_));
         case detail::TokenKind::UInt64:
-            return bits;
+            return tape_->bits(index_);
         case detail::TokenKind::Double:
-            return std::bit_cast<double>(bits);
+            return std::bit_cast<double>(tape_->bits(index_));
         default:
             throwUnexpected("a number");
         }
@@ -100,7 +99,7 @@ private:
 
     Value(const detail::Tape& tape, std::uint32_t index) noexcept : tape_(&tape), index_(index) {}
 
-    [[nodiscard]] detail::TokenKind kind() const noexcept { return (*tape_)[index_].kind; }
+    [[nodiscard]] detail::TokenKind kind() const noexcept { return (*tape_)[index_].kind(); }
     [[noreturn]] void throwUnexpected(std::string_view expected) const;
 
     const detail::Tape* tape_;
