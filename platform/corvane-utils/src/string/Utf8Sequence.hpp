@@ -1,4 +1,4 @@
-// One step of reading UTF-8 from memory. It must divide malformed text just as
+// One step of reading UTF-8 from memory or writing it. Reading must divide malformed text just as
 // string::detail::Utf8Decoder does.
 #pragma once
 
@@ -54,6 +54,27 @@ struct Utf8Sequence {
         upper = 0xBF;
     }
     return {character, length, true};
+}
+
+/// Writes one to four bytes; returns the end. @pre The character is no surrogate.
+[[nodiscard]] inline char* writeUtf8Sequence(char* to, char32_t character) noexcept {
+    const auto put = [&to](char32_t byte) { *to++ = static_cast<char>(byte); };
+    if (character < 0x80) {
+        put(character);
+    } else if (character < 0x800) {
+        put(0xC0U | (character >> 6U));
+        put(0x80U | (character & 0x3FU));
+    } else if (character < 0x10000) {
+        put(0xE0U | (character >> 12U));
+        put(0x80U | ((character >> 6U) & 0x3FU));
+        put(0x80U | (character & 0x3FU));
+    } else {
+        put(0xF0U | (character >> 18U));
+        put(0x80U | ((character >> 12U) & 0x3FU));
+        put(0x80U | ((character >> 6U) & 0x3FU));
+        put(0x80U | (character & 0x3FU));
+    }
+    return to;
 }
 
 } // namespace corvane::utils::string

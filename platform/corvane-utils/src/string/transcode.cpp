@@ -6,6 +6,7 @@
 #include <corvane/utils/string/detail/Utf16Encoder.hpp>
 
 #include "Utf8Sequence.hpp"
+#include "surrogates.hpp"
 
 namespace corvane::utils::string {
 
@@ -17,34 +18,6 @@ constexpr std::size_t kBlock = 8;
     std::uint64_t word = 0;
     std::memcpy(&word, block, kBlock);
     return (word & 0x8080808080808080U) == 0;
-}
-
-[[nodiscard]] char* appendUtf8(char* to, char32_t character) noexcept {
-    const auto put = [&to](char32_t byte) { *to++ = static_cast<char>(byte); };
-    if (character < 0x80) {
-        put(character);
-    } else if (character < 0x800) {
-        put(0xC0U | (character >> 6U));
-        put(0x80U | (character & 0x3FU));
-    } else if (character < 0x10000) {
-        put(0xE0U | (character >> 12U));
-        put(0x80U | ((character >> 6U) & 0x3FU));
-        put(0x80U | (character & 0x3FU));
-    } else {
-        put(0xF0U | (character >> 18U));
-        put(0x80U | ((character >> 12U) & 0x3FU));
-        put(0x80U | ((character >> 6U) & 0x3FU));
-        put(0x80U | (character & 0x3FU));
-    }
-    return to;
-}
-
-[[nodiscard]] constexpr bool isLeadingSurrogate(char32_t unit) noexcept {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-[[nodiscard]] constexpr bool isTrailingSurrogate(char32_t unit) noexcept {
-    return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
 } // namespace
@@ -91,13 +64,12 @@ std::string toUtf8(std::wstring_view utf16) {
             *to++ = static_cast<char>(unit);
         } else if (isLeadingSurrogate(unit) && from != end &&
                    isTrailingSurrogate(static_cast<char32_t>(*from))) {
-            to = appendUtf8(to, 0x10000U + ((unit - 0xD800U) << 10U) +
-                                    (static_cast<char32_t>(*from) - 0xDC00U));
+            to = writeUtf8Sequence(to, combineSurrogates(unit, static_cast<char32_t>(*from)));
             ++from;
         } else if (isLeadingSurrogate(unit) || isTrailingSurrogate(unit) || unit > 0xFFFF) {
-            to = appendUtf8(to, U'\uFFFD');
+            to = writeUtf8Sequence(to, U'\uFFFD');
         } else {
-            to = appendUtf8(to, unit);
+            to = writeUtf8Sequence(to, unit);
         }
     }
     utf8.resize(static_cast<std::size_t>(to - utf8.data()));

@@ -1,6 +1,7 @@
 #include "Scanner.hpp"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <limits>
 #include <memory>
@@ -8,6 +9,7 @@
 #include <utility>
 
 #include "../../string/Utf8Sequence.hpp"
+#include "../../string/surrogates.hpp"
 #include "../eightBytes.hpp"
 #include "blanks.hpp"
 #include "scanNumber.hpp"
@@ -18,7 +20,6 @@ namespace corvane::utils::json::decoder::detail {
 namespace {
 
 constexpr std::ptrdiff_t kBlock = kEight;
-constexpr std::string_view kHalfAlone = "half of a surrogate pair stands alone";
 
 /// Goes behind the bytes that stand for themselves.
 [[nodiscard]] const char* skipPlainBytes(const char* position, const char* end) noexcept {
@@ -59,26 +60,9 @@ constexpr std::string_view kHalfAlone = "half of a surrogate pair stands alone";
     return position;
 }
 
-void appendUtf8(std::string& to, std::uint32_t character) {
-    const auto append = [&to](std::uint32_t byte) { to.push_back(static_cast<char>(byte)); };
-    const auto continuation = [character](unsigned shift) {
-        return 0x80U | ((character >> shift) & 0x3FU);
-    };
-    if (character < 0x80) {
-        append(character);
-    } else if (character < 0x800) {
-        append(0xC0U | (character >> 6U));
-        append(continuation(0));
-    } else if (character < 0x10000) {
-        append(0xE0U | (character >> 12U));
-        append(continuation(6));
-        append(continuation(0));
-    } else {
-        append(0xF0U | (character >> 18U));
-        append(continuation(12));
-        append(continuation(6));
-        append(continuation(0));
-    }
+void appendUtf8(std::string& to, char32_t character) {
+    std::array<char, 4> bytes{};
+    to.append(bytes.data(), string::writeUtf8Sequence(bytes.data(), character));
 }
 
 } // namespace
@@ -272,27 +256,27 @@ void Scanner::scanEscape() {
 }
 
 /// Reads a \u escape, or two that are the halves of a surrogate pair.
-std::uint32_t Scanner::scanEscapedCharacter() {
+char32_t Scanner::scanEscapedCharacter() {
     const char* const escape = position_;
-    const std::uint32_t unit = scanCodeUnit();
-    if (unit < 0xD800 || unit > 0xDFFF) {
+    const char32_t unit = scanCodeUnit();
+    if (!string::isLeadingSurrogate(unit) && !string::isTrailingSurrogate(unit)) {
         return unit;
     }
     // A text that ends before the other half is only incomplete.
     constexpr std::string_view beginning = "\\u";
     const auto following = std::min<std::size_t>(static_cast<std::size_t>(end_ - position_), 2);
-    if (unit > 0xDBFF || !beginning.starts_with(std::string_view(position_, following))) {
-        fail(escape, kHalfAlone);
+    if (string::isLeadingSurrogate(unit) &&
+        beginning.starts_with(std::string_view(position_, following))) {
+        const char32_t other = scanCodeUnit();
+        if (string::isTrailingSurrogate(other)) {
+            return string::combineSurrogates(unit, other);
+        }
     }
-    const std::uint32_t other = scanCodeUnit();
-    if (other < 0xDC00 || other > 0xDFFF) {
-        fail(escape, kHalfAlone);
-    }
-    return 0x10000U + ((unit - 0xD800U) << 10U) + (other - 0xDC00U);
+    fail(escape, "half of a surrogate pair stands alone");
 }
 
 /// Reads a \u escape, or the end of the text within it.
-std::uint32_t Scanner::scanCodeUnit() {
+char32_t Scanner::scanCodeUnit() {
     const char* const escape = position_;
     if (end_ - escape < 2) {
         failUnexpected(end_);

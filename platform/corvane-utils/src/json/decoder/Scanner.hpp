@@ -34,8 +34,8 @@ private:
     void scanEscapedString(const char* quote);
     void skipText();
     void scanEscape();
-    [[nodiscard]] std::uint32_t scanEscapedCharacter();
-    [[nodiscard]] std::uint32_t scanCodeUnit();
+    [[nodiscard]] char32_t scanEscapedCharacter();
+    [[nodiscard]] char32_t scanCodeUnit();
 
     void add(Token token) {
         makeRoom();
