@@ -43,7 +43,8 @@ struct EditableProperty {
     /// The value's text as shown to the user.
     std::function<std::wstring()> text{};
     /// Stores the value that the text stands for and publishes the property, or leaves the value
-    /// alone and says why the text is no value. Empty: the property is read only.
+    /// alone and says why the text is no value. Empty: the property is read only, or it is a
+    /// reference (Editor::Reference), which the workbench sets.
     std::function<tl::expected<void, std::wstring>(std::wstring_view)> setText{};
     /// The texts to choose from, for Editor::Choice.
     std::vector<std::wstring> choices{};

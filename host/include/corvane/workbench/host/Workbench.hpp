@@ -17,6 +17,7 @@
 #include <corvane/workbench/model/internal/ElementReferenceData.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <span>

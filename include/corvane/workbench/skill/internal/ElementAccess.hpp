@@ -2,7 +2,10 @@
 
 // The workbench's one door to the private operations of skill elements.
 
+#include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/skill/Element.hpp>
+
+#include <optional>
 
 namespace corvane::workbench::skill::internal {
 

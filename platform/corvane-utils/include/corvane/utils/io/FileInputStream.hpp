@@ -1,6 +1,7 @@
 // Reads a file, in big blocks, byte for byte.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <string>
