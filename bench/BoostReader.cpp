@@ -9,12 +9,12 @@ namespace {
 
 class BoostDocument final : public ReadDocument {
 public:
-    explicit BoostDocument(boost::json::value value) : m_value(std::move(value)) {}
+    explicit BoostDocument(boost::json::value value) : value_(std::move(value)) {}
 
-    [[nodiscard]] std::string write() const override { return boost::json::serialize(m_value); }
+    [[nodiscard]] std::string write() const override { return boost::json::serialize(value_); }
 
 private:
-    boost::json::value m_value;
+    boost::json::value value_;
 };
 
 const Reader kReader("boost", [](std::string_view text) -> std::unique_ptr<ReadDocument> {

@@ -11,14 +11,14 @@ using workbench::json::Value;
 
 class CorvaneDocument final : public ReadDocument {
 public:
-    explicit CorvaneDocument(Value value) : m_value(std::move(value)) {}
+    explicit CorvaneDocument(Value value) : value_(std::move(value)) {}
 
     [[nodiscard]] std::string write() const override {
-        return m_value.toString(utils::json::encoder::Document::Format::Compact);
+        return value_.toString(utils::json::encoder::Document::Format::Compact);
     }
 
 private:
-    Value m_value;
+    Value value_;
 };
 
 const Reader kReader("corvane", [](std::string_view text) -> std::unique_ptr<ReadDocument> {

@@ -9,16 +9,16 @@ namespace {
 
 class JsonconsDocument final : public ReadDocument {
 public:
-    explicit JsonconsDocument(jsoncons::ojson value) : m_value(std::move(value)) {}
+    explicit JsonconsDocument(jsoncons::ojson value) : value_(std::move(value)) {}
 
     [[nodiscard]] std::string write() const override {
         std::string text;
-        m_value.dump(text);
+        value_.dump(text);
         return text;
     }
 
 private:
-    jsoncons::ojson m_value;
+    jsoncons::ojson value_;
 };
 
 const Reader kReader("jsoncons", [](std::string_view text) -> std::unique_ptr<ReadDocument> {

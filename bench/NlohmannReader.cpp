@@ -9,12 +9,12 @@ namespace {
 
 class NlohmannDocument final : public ReadDocument {
 public:
-    explicit NlohmannDocument(nlohmann::ordered_json value) : m_value(std::move(value)) {}
+    explicit NlohmannDocument(nlohmann::ordered_json value) : value_(std::move(value)) {}
 
-    [[nodiscard]] std::string write() const override { return m_value.dump(); }
+    [[nodiscard]] std::string write() const override { return value_.dump(); }
 
 private:
-    nlohmann::ordered_json m_value;
+    nlohmann::ordered_json value_;
 };
 
 const Reader kReader("nlohmann", [](std::string_view text) -> std::unique_ptr<ReadDocument> {

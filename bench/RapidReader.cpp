@@ -39,10 +39,9 @@ class RapidDocument final : public ReadDocument {
 public:
     explicit RapidDocument(std::string_view text) {
         // Precise like the others: without the flag the last bits of a double may be wrong.
-        m_document
-            .Parse<rapidjson::kParseFullPrecisionFlag | rapidjson::kParseValidateEncodingFlag>(
-                text.data(), text.size());
-        if (m_document.HasParseError()) {
+        document_.Parse<rapidjson::kParseFullPrecisionFlag | rapidjson::kParseValidateEncodingFlag>(
+            text.data(), text.size());
+        if (document_.HasParseError()) {
             throw std::runtime_error("RapidJSON refuses the text");
         }
     }
@@ -50,12 +49,12 @@ public:
     [[nodiscard]] std::string write() const override {
         rapidjson::StringBuffer buffer;
         rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
-        m_document.Accept(writer);
+        document_.Accept(writer);
         return {buffer.GetString(), buffer.GetSize()};
     }
 
 private:
-    Document m_document;
+    Document document_;
 };
 
 const Reader kReader("rapidjson", [](std::string_view text) -> std::unique_ptr<ReadDocument> {

@@ -11,7 +11,7 @@ std::vector<const Reader*>& list() {
 
 } // namespace
 
-Reader::Reader(const char* libraryName, Read readText) : m_name(libraryName), m_read(readText) {
+Reader::Reader(const char* libraryName, Read readText) : name_(libraryName), read_(readText) {
     list().push_back(this);
 }
 

@@ -30,17 +30,17 @@ public:
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
 
-    [[nodiscard]] const char* name() const noexcept { return m_name; }
+    [[nodiscard]] const char* name() const noexcept { return name_; }
     /// Throws if the library refuses the text.
     [[nodiscard]] std::unique_ptr<ReadDocument> read(std::string_view text) const {
-        return m_read(text);
+        return read_(text);
     }
 
     [[nodiscard]] static const std::vector<const Reader*>& all();
 
 private:
-    const char* m_name;
-    Read m_read;
+    const char* name_;
+    Read read_;
 };
 
 } // namespace corvane::bench

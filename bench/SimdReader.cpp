@@ -8,14 +8,13 @@ namespace {
 
 class SimdDocument final : public ReadDocument {
 public:
-    explicit SimdDocument(std::string_view text)
-        : m_root(m_parser.parse(text.data(), text.size())) {}
+    explicit SimdDocument(std::string_view text) : root_(parser_.parse(text.data(), text.size())) {}
 
-    [[nodiscard]] std::string write() const override { return simdjson::minify(m_root); }
+    [[nodiscard]] std::string write() const override { return simdjson::minify(root_); }
 
 private:
-    simdjson::dom::parser m_parser;
-    simdjson::dom::element m_root;
+    simdjson::dom::parser parser_;
+    simdjson::dom::element root_;
 };
 
 const Reader kReader("simdjson", [](std::string_view text) -> std::unique_ptr<ReadDocument> {

@@ -13,23 +13,23 @@ namespace {
 class YyDocument final : public ReadDocument {
 public:
     explicit YyDocument(std::string_view text)
-        : m_document(yyjson_read(text.data(), text.size(), YYJSON_READ_NOFLAG)) {
-        if (m_document == nullptr) {
+        : document_(yyjson_read(text.data(), text.size(), YYJSON_READ_NOFLAG)) {
+        if (document_ == nullptr) {
             throw std::runtime_error("yyjson refuses the text");
         }
     }
-    ~YyDocument() override { yyjson_doc_free(m_document); }
+    ~YyDocument() override { yyjson_doc_free(document_); }
 
     [[nodiscard]] std::string write() const override {
         std::size_t size = 0;
-        char* const characters = yyjson_write(m_document, YYJSON_WRITE_NOFLAG, &size);
+        char* const characters = yyjson_write(document_, YYJSON_WRITE_NOFLAG, &size);
         std::string text(characters, size);
         std::free(characters);
         return text;
     }
 
 private:
-    yyjson_doc* m_document;
+    yyjson_doc* document_;
 };
 
 const Reader kReader("yyjson", [](std::string_view text) -> std::unique_ptr<ReadDocument> {

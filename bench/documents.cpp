@@ -18,35 +18,35 @@ namespace {
 /// Appends JSON with line breaks and indentation, as such files usually have them.
 class TextBuilder {
 public:
-    explicit TextBuilder(std::size_t indentation) : m_indentation(indentation) {}
+    explicit TextBuilder(std::size_t indentation) : indentation_(indentation) {}
 
     void open(char bracket) {
-        m_text += bracket;
-        ++m_depth;
-        m_first = true;
+        text_ += bracket;
+        ++depth_;
+        first_ = true;
     }
     void close(char bracket) {
-        --m_depth;
-        if (!m_first) {
+        --depth_;
+        if (!first_) {
             breakLine();
         }
-        m_text += bracket;
-        m_first = false;
+        text_ += bracket;
+        first_ = false;
     }
     void next() {
-        if (!m_first) {
-            m_text += ',';
+        if (!first_) {
+            text_ += ',';
         }
-        m_first = false;
+        first_ = false;
         breakLine();
     }
     void name(std::string_view name) {
         next();
         string(name);
-        m_text += m_indentation == 0 ? ":" : ": ";
+        text_ += indentation_ == 0 ? ":" : ": ";
     }
-    void string(std::string_view text) { m_text.append("\"").append(text).append("\""); }
-    void raw(std::string_view text) { m_text += text; }
+    void string(std::string_view text) { text_.append("\"").append(text).append("\""); }
+    void raw(std::string_view text) { text_ += text; }
     void member(std::string_view memberName, std::string_view text) {
         name(memberName);
         string(text);
@@ -56,27 +56,27 @@ public:
         raw(text);
     }
 
-    [[nodiscard]] std::string take() && { return std::move(m_text); }
+    [[nodiscard]] std::string take() && { return std::move(text_); }
 
 private:
     void breakLine() {
-        if (m_indentation != 0) {
-            m_text += '\n';
-            m_text.append(m_depth * m_indentation, ' ');
+        if (indentation_ != 0) {
+            text_ += '\n';
+            text_.append(depth_ * indentation_, ' ');
         }
     }
 
-    std::size_t m_indentation;
-    std::string m_text;
-    std::size_t m_depth = 0;
-    bool m_first = true;
+    std::size_t indentation_;
+    std::string text_;
+    std::size_t depth_ = 0;
+    bool first_ = true;
 };
 
 class Source {
 public:
-    explicit Source(std::uint32_t seed) : m_random(seed) {}
+    explicit Source(std::uint32_t seed) : random_(seed) {}
 
-    std::uint64_t below(std::uint64_t limit) { return m_random() % limit; }
+    std::uint64_t below(std::uint64_t limit) { return random_() % limit; }
     std::string integer(std::uint64_t low, std::uint64_t high) {
         return std::to_string(low + below(high - low));
     }
@@ -107,7 +107,7 @@ public:
     }
 
 private:
-    std::mt19937_64 m_random;
+    std::mt19937_64 random_;
 };
 
 void addAuthor(TextBuilder& text, Source& source) {

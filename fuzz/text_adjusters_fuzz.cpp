@@ -71,21 +71,21 @@ struct Box {
 
 class Bytes {
 public:
-    explicit Bytes(std::span<const std::uint8_t> bytes) : m_bytes(bytes) {}
+    explicit Bytes(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
-    [[nodiscard]] bool empty() const { return m_bytes.empty(); }
+    [[nodiscard]] bool empty() const { return bytes_.empty(); }
 
     std::size_t next() {
-        if (m_bytes.empty()) {
+        if (bytes_.empty()) {
             return 0;
         }
-        const std::uint8_t first = m_bytes.front();
-        m_bytes = m_bytes.subspan(1);
+        const std::uint8_t first = bytes_.front();
+        bytes_ = bytes_.subspan(1);
         return first;
     }
 
 private:
-    std::span<const std::uint8_t> m_bytes;
+    std::span<const std::uint8_t> bytes_;
 };
 
 void edit(Box& box, Bytes& bytes, std::wstring_view keys) {

@@ -23,32 +23,32 @@ class EditedText {
 public:
     EditedText(std::wstring& text, std::uint64_t& selectionStart,
                std::uint64_t& selectionEnd) noexcept
-        : m_text(text), m_selectionStart(selectionStart), m_selectionEnd(selectionEnd) {}
+        : text_(text), selectionStart_(selectionStart), selectionEnd_(selectionEnd) {}
 
-    [[nodiscard]] std::size_t size() const noexcept { return m_text.size(); }
-    [[nodiscard]] std::wstring_view view() const noexcept { return m_text; }
+    [[nodiscard]] std::size_t size() const noexcept { return text_.size(); }
+    [[nodiscard]] std::wstring_view view() const noexcept { return text_; }
 
     /// The character at `index`, or NUL past the end.
     [[nodiscard]] wchar_t at(std::size_t index) const noexcept {
-        return index < m_text.size() ? m_text[index] : L'\0';
+        return index < text_.size() ? text_[index] : L'\0';
     }
 
     [[nodiscard]] bool is(std::size_t index, wchar_t character) const noexcept {
-        return index < m_text.size() && m_text[index] == character;
+        return index < text_.size() && text_[index] == character;
     }
 
     [[nodiscard]] bool isOneOf(std::size_t index, std::wstring_view set) const noexcept {
-        return index < m_text.size() && internal::isOneOf(m_text[index], set);
+        return index < text_.size() && internal::isOneOf(text_[index], set);
     }
 
     /// Where the next character of `set` stands at or after `from`, or the text's end.
     [[nodiscard]] std::size_t find(std::wstring_view set, std::size_t from) const noexcept {
-        return std::min(m_text.find_first_of(set, from), m_text.size());
+        return std::min(text_.find_first_of(set, from), text_.size());
     }
 
     /// Whether there is a plain cursor instead of a selection. Edits can bring the ends together.
-    [[nodiscard]] bool hasCursor() const noexcept { return m_selectionStart == m_selectionEnd; }
-    [[nodiscard]] std::uint64_t cursor() const noexcept { return m_selectionEnd; }
+    [[nodiscard]] bool hasCursor() const noexcept { return selectionStart_ == selectionEnd_; }
+    [[nodiscard]] std::uint64_t cursor() const noexcept { return selectionEnd_; }
     [[nodiscard]] bool hasCursorAt(std::size_t index) const noexcept {
         return hasCursor() && cursor() == index;
     }
@@ -56,12 +56,12 @@ public:
         return hasCursor() && cursor() > index;
     }
 
-    void replace(std::size_t index, wchar_t character) noexcept { m_text[index] = character; }
-    void swapWithNext(std::size_t index) noexcept { std::swap(m_text[index], m_text[index + 1]); }
+    void replace(std::size_t index, wchar_t character) noexcept { text_[index] = character; }
+    void swapWithNext(std::size_t index) noexcept { std::swap(text_[index], text_[index + 1]); }
 
     void insert(std::size_t index, wchar_t character, std::size_t count = 1) {
-        m_text.insert(index, count, character);
-        for (std::uint64_t* position : {&m_selectionStart, &m_selectionEnd}) {
+        text_.insert(index, count, character);
+        for (std::uint64_t* position : {&selectionStart_, &selectionEnd_}) {
             if (*position > index) {
                 *position += count;
             }
@@ -69,8 +69,8 @@ public:
     }
 
     void remove(std::size_t index, std::size_t count = 1) noexcept {
-        m_text.erase(index, count);
-        for (std::uint64_t* position : {&m_selectionStart, &m_selectionEnd}) {
+        text_.erase(index, count);
+        for (std::uint64_t* position : {&selectionStart_, &selectionEnd_}) {
             if (*position > index) {
                 *position -= std::min<std::uint64_t>(*position - index, count);
             }
@@ -85,34 +85,34 @@ public:
         std::uint64_t removedBeforeSelectionStart = 0;
         std::uint64_t removedBeforeSelectionEnd = 0;
         for (std::size_t index = start; index < end; ++index) {
-            if (keep(m_text[index])) {
-                m_text[kept++] = m_text[index];
+            if (keep(text_[index])) {
+                text_[kept++] = text_[index];
                 continue;
             }
-            removedBeforeSelectionStart += index < m_selectionStart ? 1U : 0U;
-            removedBeforeSelectionEnd += index < m_selectionEnd ? 1U : 0U;
+            removedBeforeSelectionStart += index < selectionStart_ ? 1U : 0U;
+            removedBeforeSelectionEnd += index < selectionEnd_ ? 1U : 0U;
         }
-        m_text.erase(kept, end - kept);
-        m_selectionStart -= removedBeforeSelectionStart;
-        m_selectionEnd -= removedBeforeSelectionEnd;
+        text_.erase(kept, end - kept);
+        selectionStart_ -= removedBeforeSelectionStart;
+        selectionEnd_ -= removedBeforeSelectionEnd;
         return kept;
     }
 
     void advanceSelection() noexcept {
-        ++m_selectionStart;
-        ++m_selectionEnd;
+        ++selectionStart_;
+        ++selectionEnd_;
     }
 
     /// Brings an end of the selection that stands beyond `index` back to it.
     void limitSelection(std::size_t index) noexcept {
-        m_selectionStart = std::min<std::uint64_t>(m_selectionStart, index);
-        m_selectionEnd = std::min<std::uint64_t>(m_selectionEnd, index);
+        selectionStart_ = std::min<std::uint64_t>(selectionStart_, index);
+        selectionEnd_ = std::min<std::uint64_t>(selectionEnd_, index);
     }
 
 private:
-    std::wstring& m_text;
-    std::uint64_t& m_selectionStart;
-    std::uint64_t& m_selectionEnd;
+    std::wstring& text_;
+    std::uint64_t& selectionStart_;
+    std::uint64_t& selectionEnd_;
 };
 
 } // namespace corvane::workbench::bindings::functional::internal

@@ -101,16 +101,16 @@ std::optional<Duration> Duration::parse(std::string_view text) noexcept {
 }
 
 std::string Duration::toString() const {
-    if (m_value == 0.0) {
+    if (value_ == 0.0) {
         return "0";
     }
-    return std::format("{}{}", utils::numeric::format(m_value).view(), encodeUnits(m_units));
+    return std::format("{}{}", utils::numeric::format(value_).view(), encodeUnits(units_));
 }
 
 std::wstring Duration::toDisplayText() const {
     // "m" would be read as metres.
-    const std::string_view units = m_units == Units::Minutes ? "min" : encodeUnits(m_units);
-    const double value = m_value == 0.0 ? 0.0 : m_value;
+    const std::string_view units = units_ == Units::Minutes ? "min" : encodeUnits(units_);
+    const double value = value_ == 0.0 ? 0.0 : value_;
     return utils::string::toWide(std::format("{} {}", utils::numeric::format(value).view(), units));
 }
 

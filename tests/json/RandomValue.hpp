@@ -14,16 +14,16 @@ namespace corvane::workbench::json::test {
 
 class RandomValue {
 public:
-    explicit RandomValue(std::uint32_t seed) : m_random(seed) {}
+    explicit RandomValue(std::uint32_t seed) : random_(seed) {}
 
     Value operator()(int depth = 4) {
         switch (below(depth == 0 ? 6 : 8)) {
         case 0:
             return text();
         case 1:
-            return std::bit_cast<std::int64_t>(m_random()) >> below(64);
+            return std::bit_cast<std::int64_t>(random_()) >> below(64);
         case 2: // A smaller one would be read back as a signed integer.
-            return m_random() | std::uint64_t{1} << 63U;
+            return random_() | std::uint64_t{1} << 63U;
         case 3:
             return number();
         case 4:
@@ -82,18 +82,18 @@ public:
         case 1:
             return below(2) == 0 ? 0.0 : -0.0;
         case 2: // Denormals.
-            return std::bit_cast<double>(m_random() >> (12 + below(52)));
+            return std::bit_cast<double>(random_() >> (12 + below(52)));
         default: {
-            const auto any = std::bit_cast<double>(m_random());
+            const auto any = std::bit_cast<double>(random_());
             return std::isfinite(any) ? any : std::numeric_limits<double>::lowest();
         }
         }
     }
 
-    std::uint64_t below(std::uint64_t limit) { return m_random() % limit; }
+    std::uint64_t below(std::uint64_t limit) { return random_() % limit; }
 
 private:
-    std::mt19937_64 m_random;
+    std::mt19937_64 random_;
 };
 
 } // namespace corvane::workbench::json::test

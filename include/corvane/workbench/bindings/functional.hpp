@@ -50,7 +50,7 @@ class Offset;
 template <>
 class Offset<int> {
 public:
-    constexpr explicit Offset(int offset) noexcept : m_offset(offset) {}
+    constexpr explicit Offset(int offset) noexcept : offset_(offset) {}
 
     /// The value for a new entry at `index`, wrapping around on overflow.
     /// Precondition: `index` is at most the size of `values`; it is not checked.
@@ -60,7 +60,7 @@ public:
             return 0;
         }
         // Unsigned, because there an overflow is defined to wrap.
-        const auto offset = static_cast<std::uint32_t>(m_offset);
+        const auto offset = static_cast<std::uint32_t>(offset_);
         if (index == 0) {
             return static_cast<int>(static_cast<std::uint32_t>(values.front()) - offset);
         }
@@ -74,14 +74,14 @@ public:
                                               std::uint64_t index) const noexcept;
 
 private:
-    int m_offset;
+    int offset_;
 };
 
 /// Steps by any number through a list of doubles.
 template <>
 class Offset<double> {
 public:
-    constexpr explicit Offset(double offset) noexcept : m_offset(offset) {}
+    constexpr explicit Offset(double offset) noexcept : offset_(offset) {}
 
     /// The value for a new entry at `index`.
     /// Precondition: `index` is at most the size of `values`; it is not checked.
@@ -90,17 +90,17 @@ public:
         if (values.empty()) {
             return 0.0;
         }
-        return index == 0 ? values.front() - m_offset
-                          : values[static_cast<std::size_t>(index - 1)] + m_offset;
+        return index == 0 ? values.front() - offset_
+                          : values[static_cast<std::size_t>(index - 1)] + offset_;
     }
 
 private:
-    double m_offset;
+    double offset_;
 };
 
 constexpr double Offset<int>::operator()(std::span<const double> values,
                                          std::uint64_t index) const noexcept {
-    return Offset<double>(m_offset)(values, index);
+    return Offset<double>(offset_)(values, index);
 }
 
 } // namespace corvane::workbench::bindings::functional

@@ -44,7 +44,7 @@ public:
 
     /// 0 seconds.
     constexpr Duration() noexcept = default;
-    constexpr Duration(double value, Units units) noexcept : m_value(value), m_units(units) {}
+    constexpr Duration(double value, Units units) noexcept : value_(value), units_(units) {}
 
     /// The same span in the unit of the given type if there is one, else in the largest unit of
     /// which that type's tick is a whole multiple (days become hours), else in nanoseconds. Counts
@@ -58,8 +58,8 @@ public:
     template <class Span>
     [[nodiscard]] Span to() const;
 
-    [[nodiscard]] constexpr double value() const noexcept { return m_value; }
-    [[nodiscard]] constexpr Units units() const noexcept { return m_units; }
+    [[nodiscard]] constexpr double value() const noexcept { return value_; }
+    [[nodiscard]] constexpr Units units() const noexcept { return units_; }
 
     /// Compares the two fields: 1000 milliseconds are not 1 second. Use to() to compare lengths.
     friend constexpr bool operator==(const Duration&, const Duration&) noexcept = default;
@@ -101,8 +101,8 @@ private:
     template <class Period>
     [[nodiscard]] static constexpr Units unitsFor() noexcept;
 
-    double m_value = 0.0;
-    Units m_units = Units::Seconds;
+    double value_ = 0.0;
+    Units units_ = Units::Seconds;
 };
 
 constexpr Duration::Ratio Duration::secondsPer(Units units) noexcept {
@@ -166,14 +166,14 @@ Span Duration::to() const {
     static_assert(std::is_arithmetic_v<Rep>);
 
     // Reduce the two ratios crosswise before multiplying: exact for every usual type.
-    const Ratio unit = secondsPer(m_units);
+    const Ratio unit = secondsPer(units_);
     const std::intmax_t high = std::gcd(unit.numerator, Period::num);
     const std::intmax_t low = std::gcd(unit.denominator, Period::den);
     const double multiplier =
         static_cast<double>(unit.numerator / high) * static_cast<double>(Period::den / low);
     const double divisor =
         static_cast<double>(unit.denominator / low) * static_cast<double>(Period::num / high);
-    const double ticks = m_value * multiplier / divisor;
+    const double ticks = value_ * multiplier / divisor;
     if constexpr (std::is_floating_point_v<Rep>) {
         if (!(std::abs(ticks) <= std::numeric_limits<Rep>::max())) {
             throw std::out_of_range("the time duration does not fit the type");
