@@ -137,6 +137,17 @@ char* writeManyPlaces(char* to, std::uint64_t number, std::size_t places) noexce
     return writePlaces(to, rest, places - 16);
 }
 
+/// What writeFixed() does for numbers with more digits before or behind the point.
+char* writeLongFixed(char* to, std::uint64_t whole, std::uint64_t fraction,
+                     std::size_t places) noexcept {
+    // The text fits, but not what is written behind its end.
+    std::array<char, 15 + 1 + 16 + 16> text;
+    char* end = writeWhole(text.data(), whole);
+    *end++ = '.';
+    end = writeManyPlaces(end, fraction, places);
+    return std::copy(text.data(), end, to);
+}
+
 /// Writes a number that is not whole with a point: "12.5", "0.00125". Needs room for 23.
 /// @pre 0.001 <= number < 1e15, and whole is what is before its point.
 char* writeFixed(char* to, double number, std::uint64_t whole) noexcept {
@@ -144,17 +155,12 @@ char* writeFixed(char* to, double number, std::uint64_t whole) noexcept {
     const auto places = static_cast<std::size_t>(-decimal.exponent);
     // The whole numbers below the shortest decimal are those below the number itself.
     const std::uint64_t fraction = decimal.digits - whole * kPowersOf10[places];
-    if (places <= 16 && whole < 1'000'000) {
-        to = writeUpToEight(to, whole);
-        *to++ = '.';
-        return writePlaces(to, fraction, places);
+    if (places > 16 || whole >= 1'000'000) [[unlikely]] {
+        return writeLongFixed(to, whole, fraction, places);
     }
-    // The text fits, but not what is written behind its end.
-    std::array<char, 15 + 1 + 16 + 16> text;
-    char* textEnd = writeWhole(text.data(), whole);
-    *textEnd++ = '.';
-    textEnd = writeManyPlaces(textEnd, fraction, places);
-    return std::copy(text.data(), textEnd, to);
+    to = writeUpToEight(to, whole);
+    *to++ = '.';
+    return writePlaces(to, fraction, places);
 }
 
 } // namespace
