@@ -1,5 +1,6 @@
 #include <corvane/utils/numeric/format.hpp>
 
+#include "digits.hpp"
 #include "shortestDecimal.hpp"
 
 #include <algorithm>
@@ -14,39 +15,6 @@
 namespace corvane::utils::numeric {
 
 namespace {
-
-/// Eight digits as numbers, a byte each, the first one lowest.
-using Digits = std::uint64_t;
-
-constexpr std::uint64_t kEightDigits = 100'000'000;
-constexpr std::size_t kBitsOfADigit = 8;
-
-/// @pre number < 10^8.
-[[nodiscard]] constexpr Digits splitIntoDigits(std::uint64_t number) noexcept {
-    // From one number of eight digits to two of four, four of two and eight of one, each half in
-    // a lane of its own. A lane with quotient q and remainder r becomes q + (r << width), which is
-    // (the lane << width) - q * ((divisor << width) - 1).
-    const std::uint64_t fours = (number << 32U) - number / 10'000 * ((10'000ULL << 32U) - 1);
-    const std::uint64_t hundreds = ((fours * 10'486) >> 20U) & 0x0000'007F'0000'007FU;
-    const std::uint64_t twos = (fours << 16U) - hundreds * ((100U << 16U) - 1);
-    const std::uint64_t tens = ((twos * 103) >> 10U) & 0x000F'000F'000F'000FU;
-    return (twos << 8U) - tens * ((10U << 8U) - 1);
-}
-
-static_assert(splitIntoDigits(12'345'678) == 0x0807'0605'0403'0201U);
-static_assert(splitIntoDigits(99'999'999) == 0x0909'0909'0909'0909U);
-
-/// Writes eight characters, from the lowest digit on; the caller counts those that matter.
-void writeDigits(char* to, Digits digits) noexcept {
-    const std::uint64_t characters = digits | 0x3030'3030'3030'3030U; // '0'
-    if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(to, &characters, sizeof characters);
-    } else {
-        for (std::size_t index = 0; index != sizeof characters; ++index) {
-            to[index] = static_cast<char>(characters >> (index * kBitsOfADigit));
-        }
-    }
-}
 
 /// The digits of a number below 1000, followed by how many they are.
 using ShortNumber = std::array<char, 4>;
@@ -106,20 +74,13 @@ constexpr auto kPowersOf10 = [] {
     return powers;
 }();
 
-/// How many digits there are up to the last one that is not zero. @pre One is not.
-[[nodiscard]] std::size_t countUpToLast(Digits digits) noexcept {
-    return 8 - static_cast<std::size_t>(std::countl_zero(digits)) / kBitsOfADigit;
-}
-
 /// Writes that many places of a number up to the last one that is not zero; returns the end.
 /// Needs room for 16. @pre number != 0 and places <= 16.
 char* writePlaces(char* to, std::uint64_t number, std::size_t places) noexcept {
     const std::uint64_t sixteen = number * kPowersOf10[16 - places];
-    const Digits first = splitIntoDigits(sixteen / kEightDigits);
-    const Digits second = splitIntoDigits(sixteen % kEightDigits);
-    writeDigits(to, first);
-    writeDigits(to + 8, second);
-    return to + (second == 0 ? countUpToLast(first) : 8 + countUpToLast(second));
+    const SixteenDigits digits(sixteen / kEightDigits, sixteen % kEightDigits);
+    digits.write(to);
+    return to + digits.countUpToLast();
 }
 
 /// As writePlaces() does, for up to 19 places. Needs room for 24.
