@@ -24,53 +24,53 @@ Array& Array::operator=(const Array& other) = default;
 Array& Array::operator=(Array&& other) noexcept = default;
 
 bool Array::empty() const noexcept {
-    return m_elements.empty();
+    return elements_.empty();
 }
 std::size_t Array::size() const noexcept {
-    return m_elements.size();
+    return elements_.size();
 }
 Array::iterator Array::begin() noexcept {
-    return m_elements.begin();
+    return elements_.begin();
 }
 Array::iterator Array::end() noexcept {
-    return m_elements.end();
+    return elements_.end();
 }
 Array::const_iterator Array::begin() const noexcept {
-    return m_elements.begin();
+    return elements_.begin();
 }
 Array::const_iterator Array::end() const noexcept {
-    return m_elements.end();
+    return elements_.end();
 }
 
 Value& Array::operator[](std::size_t index) noexcept {
-    return m_elements[index];
+    return elements_[index];
 }
 const Value& Array::operator[](std::size_t index) const noexcept {
-    return m_elements[index];
+    return elements_[index];
 }
 
 void Array::reserve(std::size_t size) {
-    m_elements.reserve(size);
+    elements_.reserve(size);
 }
 
 Value& Array::append(Value value) {
-    return m_elements.emplace_back(std::move(value));
+    return elements_.emplace_back(std::move(value));
 }
 
 Array::iterator Array::erase(const_iterator element) {
-    return m_elements.erase(element);
+    return elements_.erase(element);
 }
 
 void Array::clear() noexcept {
-    m_elements.clear();
+    elements_.clear();
 }
 
 bool Array::operator==(const Array& other) const {
-    if (m_elements.size() != other.m_elements.size()) {
+    if (elements_.size() != other.elements_.size()) {
         return false;
     }
-    for (std::size_t index = 0; index < m_elements.size(); ++index) {
-        if (!(m_elements[index] == other.m_elements[index])) {
+    for (std::size_t index = 0; index < elements_.size(); ++index) {
+        if (!(elements_[index] == other.elements_[index])) {
             return false;
         }
     }
@@ -94,7 +94,7 @@ void Array::encode(encoder::Value& target) const {
 }
 
 void Array::encode(encoder::Array& target) const {
-    for (const Value& element : m_elements) {
+    for (const Value& element : elements_) {
         encoder::Value value = target.addElement();
         element.encode(value);
     }

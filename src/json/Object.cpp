@@ -40,66 +40,66 @@ Object& Object::operator=(const Object& other) = default;
 Object& Object::operator=(Object&& other) noexcept = default;
 
 bool Object::empty() const noexcept {
-    return m_members.empty();
+    return members_.empty();
 }
 std::size_t Object::size() const noexcept {
-    return m_members.size();
+    return members_.size();
 }
 Object::iterator Object::begin() noexcept {
-    return m_members.begin();
+    return members_.begin();
 }
 Object::iterator Object::end() noexcept {
-    return m_members.end();
+    return members_.end();
 }
 Object::const_iterator Object::begin() const noexcept {
-    return m_members.begin();
+    return members_.begin();
 }
 Object::const_iterator Object::end() const noexcept {
-    return m_members.end();
+    return members_.end();
 }
 
 Value* Object::find(std::string_view name) noexcept {
-    const auto member = std::ranges::find(m_members, name, &Member::first);
-    return member == m_members.end() ? nullptr : &member->second;
+    const auto member = std::ranges::find(members_, name, &Member::first);
+    return member == members_.end() ? nullptr : &member->second;
 }
 
 const Value* Object::find(std::string_view name) const noexcept {
-    const auto member = std::ranges::find(m_members, name, &Member::first);
-    return member == m_members.end() ? nullptr : &member->second;
+    const auto member = std::ranges::find(members_, name, &Member::first);
+    return member == members_.end() ? nullptr : &member->second;
 }
 
 void Object::reserve(std::size_t size) {
-    m_members.reserve(size);
+    members_.reserve(size);
 }
 
 Value& Object::append(std::string name, Value value) {
-    return m_members.emplace_back(std::move(name), std::move(value)).second;
+    return members_.emplace_back(std::move(name), std::move(value)).second;
 }
 
 bool Object::erase(std::string_view name) {
-    const auto member = std::ranges::find(m_members, name, &Member::first);
-    if (member == m_members.end()) {
+    const auto member = std::ranges::find(members_, name, &Member::first);
+    if (member == members_.end()) {
         return false;
     }
-    m_members.erase(member);
+    members_.erase(member);
     return true;
 }
 
 Object::iterator Object::erase(const_iterator member) {
-    return m_members.erase(member);
+    return members_.erase(member);
 }
 
 void Object::clear() noexcept {
-    m_members.clear();
+    members_.clear();
 }
 
 bool Object::operator==(const Object& other) const {
-    if (m_members.size() != other.m_members.size()) {
+    if (members_.size() != other.members_.size()) {
         return false;
     }
-    for (std::size_t index = 0; index < m_members.size(); ++index) {
-        const Member& left = m_members[index];
-        const Member& right = other.m_members[index];
+    for (std::size_t index = 0; index < members_.size(); ++index) {
+        const Member& left = members_[index];
+        const Member& right = other.members_[index];
         if (left.first != right.first || !(left.second == right.second)) {
             return false;
         }
@@ -134,7 +134,7 @@ void Object::encode(encoder::Value& target) const {
 }
 
 void Object::encode(encoder::Object& target) const {
-    for (const Member& member : m_members) {
+    for (const Member& member : members_) {
         encoder::Value value = target.addMember(member.first);
         member.second.encode(value);
     }

@@ -63,39 +63,39 @@ void writeDouble(encoder::Value& target, double number) {
 
 } // namespace
 
-Value::Value(std::string text) : m_text(new std::string(std::move(text))), m_kind(Kind::String) {}
+Value::Value(std::string text) : text_(new std::string(std::move(text))), kind_(Kind::String) {}
 Value::Value(std::string_view text) : Value() {
     makeText(text);
 }
 Value::Value(const char* text) : Value(std::string_view(text)) {}
 
 Value::Value(const Value& other) : Value() {
-    switch (other.m_kind) {
+    switch (other.kind_) {
     case Kind::Object:
-        std::construct_at(&m_object, other.m_object);
+        std::construct_at(&object_, other.object_);
         break;
     case Kind::Array:
-        std::construct_at(&m_array, other.m_array);
+        std::construct_at(&array_, other.array_);
         break;
     case Kind::String:
-        m_text = new std::string(*other.m_text);
+        text_ = new std::string(*other.text_);
         break;
     case Kind::SignedInteger:
-        m_signedInteger = other.m_signedInteger;
+        signedInteger_ = other.signedInteger_;
         break;
     case Kind::UnsignedInteger:
-        m_unsignedInteger = other.m_unsignedInteger;
+        unsignedInteger_ = other.unsignedInteger_;
         break;
     case Kind::Double:
-        m_double = other.m_double;
+        double_ = other.double_;
         break;
     case Kind::Boolean:
-        m_boolean = other.m_boolean;
+        boolean_ = other.boolean_;
         break;
     case Kind::Null:
         break;
     }
-    m_kind = other.m_kind;
+    kind_ = other.kind_;
 }
 
 Value& Value::operator=(const Value& other) {
@@ -112,13 +112,13 @@ Value& Value::operator=(Value&& other) noexcept {
 }
 
 void Value::destroyContent() noexcept {
-    switch (m_kind) {
+    switch (kind_) {
     case Kind::Object:
-        return std::destroy_at(&m_object);
+        return std::destroy_at(&object_);
     case Kind::Array:
-        return std::destroy_at(&m_array);
+        return std::destroy_at(&array_);
     case Kind::String:
-        delete m_text;
+        delete text_;
         return;
     default:
         return;
@@ -126,39 +126,39 @@ void Value::destroyContent() noexcept {
 }
 
 void Value::take(Value& other) noexcept {
-    switch (other.m_kind) {
+    switch (other.kind_) {
     case Kind::Object:
-        std::construct_at(&m_object, std::move(other.m_object));
-        std::destroy_at(&other.m_object);
+        std::construct_at(&object_, std::move(other.object_));
+        std::destroy_at(&other.object_);
         break;
     case Kind::Array:
-        std::construct_at(&m_array, std::move(other.m_array));
-        std::destroy_at(&other.m_array);
+        std::construct_at(&array_, std::move(other.array_));
+        std::destroy_at(&other.array_);
         break;
     case Kind::String:
-        m_text = other.m_text;
+        text_ = other.text_;
         break;
     case Kind::SignedInteger:
-        m_signedInteger = other.m_signedInteger;
+        signedInteger_ = other.signedInteger_;
         break;
     case Kind::UnsignedInteger:
-        m_unsignedInteger = other.m_unsignedInteger;
+        unsignedInteger_ = other.unsignedInteger_;
         break;
     case Kind::Double:
-        m_double = other.m_double;
+        double_ = other.double_;
         break;
     case Kind::Boolean:
-        m_boolean = other.m_boolean;
+        boolean_ = other.boolean_;
         break;
     case Kind::Null:
         break;
     }
-    m_kind = std::exchange(other.m_kind, Kind::Null);
+    kind_ = std::exchange(other.kind_, Kind::Null);
 }
 
 void Value::makeText(std::string_view text) {
-    m_text = new std::string(text);
-    m_kind = Kind::String;
+    text_ = new std::string(text);
+    kind_ = Kind::String;
 }
 
 bool Value::operator==(const Value& other) const {
@@ -167,19 +167,19 @@ bool Value::operator==(const Value& other) const {
     }
     switch (kind()) {
     case Kind::Object:
-        return m_object == other.m_object;
+        return object_ == other.object_;
     case Kind::Array:
-        return m_array == other.m_array;
+        return array_ == other.array_;
     case Kind::String:
-        return *m_text == *other.m_text;
+        return *text_ == *other.text_;
     case Kind::SignedInteger:
-        return m_signedInteger == other.m_signedInteger;
+        return signedInteger_ == other.signedInteger_;
     case Kind::UnsignedInteger:
-        return m_unsignedInteger == other.m_unsignedInteger;
+        return unsignedInteger_ == other.unsignedInteger_;
     case Kind::Double:
-        return m_double == other.m_double;
+        return double_ == other.double_;
     case Kind::Boolean:
-        return m_boolean == other.m_boolean;
+        return boolean_ == other.boolean_;
     case Kind::Null:
         break;
     }
@@ -189,19 +189,19 @@ bool Value::operator==(const Value& other) const {
 void Value::encode(encoder::Value& target) const {
     switch (kind()) {
     case Kind::Object:
-        return m_object.encode(target);
+        return object_.encode(target);
     case Kind::Array:
-        return m_array.encode(target);
+        return array_.encode(target);
     case Kind::String:
-        return target.writeString(*m_text);
+        return target.writeString(*text_);
     case Kind::SignedInteger:
-        return target.writeNumber(utils::numeric::format(m_signedInteger));
+        return target.writeNumber(utils::numeric::format(signedInteger_));
     case Kind::UnsignedInteger:
-        return target.writeNumber(utils::numeric::format(m_unsignedInteger));
+        return target.writeNumber(utils::numeric::format(unsignedInteger_));
     case Kind::Double:
-        return writeDouble(target, m_double);
+        return writeDouble(target, double_);
     case Kind::Boolean:
-        return target.writeBool(m_boolean);
+        return target.writeBool(boolean_);
     case Kind::Null:
         return target.writeNull();
     }

@@ -38,8 +38,8 @@ inline void Value::decodeContent(decoder::Value& source, DecodingOptions options
     } else if (source.isArray() || source.isObject()) {
         decodeContainer(source, options);
     } else if (source.isBool()) {
-        m_boolean = source.asBool();
-        m_kind = Kind::Boolean;
+        boolean_ = source.asBool();
+        kind_ = Kind::Boolean;
     } else if (!source.isNull()) {
         internal::throwAt(source.location(),
                           std::logic_error("internal_error: unsupported JSON value type"));
@@ -49,53 +49,53 @@ inline void Value::decodeContent(decoder::Value& source, DecodingOptions options
 inline void Value::decodeNumber(const decoder::Value& source) {
     const decoder::Value::Number number = source.asNumber();
     if (const auto* const signedInteger = std::get_if<std::int64_t>(&number)) {
-        m_signedInteger = *signedInteger;
-        m_kind = Kind::SignedInteger;
+        signedInteger_ = *signedInteger;
+        kind_ = Kind::SignedInteger;
     } else if (const auto* const unsignedInteger = std::get_if<std::uint64_t>(&number)) {
-        m_unsignedInteger = *unsignedInteger;
-        m_kind = Kind::UnsignedInteger;
+        unsignedInteger_ = *unsignedInteger;
+        kind_ = Kind::UnsignedInteger;
     } else {
-        m_double = *std::get_if<double>(&number);
-        m_kind = Kind::Double;
+        double_ = *std::get_if<double>(&number);
+        kind_ = Kind::Double;
     }
 }
 
 void Value::decodeContainer(decoder::Value& source, DecodingOptions options) {
     if (source.isArray()) {
         decoder::Array array = source.asArray();
-        std::construct_at(&m_array);
-        m_kind = Kind::Array;
-        m_array.decodeElements(array);
+        std::construct_at(&array_);
+        kind_ = Kind::Array;
+        array_.decodeElements(array);
     } else {
         decoder::Object object = source.asObject();
-        std::construct_at(&m_object);
-        m_kind = Kind::Object;
-        m_object.decodeMembers(object, options);
+        std::construct_at(&object_);
+        kind_ = Kind::Object;
+        object_.decodeMembers(object, options);
     }
 }
 
 void Array::decodeElements(decoder::Array& source) {
-    m_elements.reserve(source.elementCount());
+    elements_.reserve(source.elementCount());
     for (decoder::Value& element : source) {
         // Nested values are read with default options, whatever holds for the outermost one.
-        m_elements.emplace_back().decodeContent(element, {});
+        elements_.emplace_back().decodeContent(element, {});
     }
 }
 
 void Object::decodeMembers(decoder::Object& source, DecodingOptions options) {
-    m_members.reserve(source.memberCount());
-    internal::MemberIndex index(m_members, source.memberCount());
+    members_.reserve(source.memberCount());
+    internal::MemberIndex index(members_, source.memberCount());
     for (const decoder::Member& member : source) {
         const std::string_view name = member.name.text();
         const std::size_t position = index.findOrEnter(name);
         // Nested values are read with default options, whatever holds for the outermost one.
         if (position == internal::MemberIndex::kNone) {
-            m_members
+            members_
                 .emplace_back(std::piecewise_construct, std::forward_as_tuple(name),
                               std::forward_as_tuple())
                 .second.decodeContent(member.value, {});
         } else if (options.allowDuplicateMembers) {
-            m_members[position].second.decode(member.value);
+            members_[position].second.decode(member.value);
         } else {
             throwDuplicateMember(member.name);
         }

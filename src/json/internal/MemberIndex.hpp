@@ -23,7 +23,7 @@ public:
 
     /// The position of the member of that name, or kNone; then the caller appends that member.
     [[nodiscard]] std::size_t findOrEnter(std::string_view name) {
-        return m_slots.empty() ? search(name) : findOrEnterInTable(name);
+        return slots_.empty() ? search(name) : findOrEnterInTable(name);
     }
 
 private:
@@ -39,8 +39,8 @@ private:
     [[nodiscard]] std::size_t search(std::string_view name) const noexcept;
     [[nodiscard]] std::size_t findOrEnterInTable(std::string_view name);
 
-    const Sequence<Object::Member>& m_members;
-    std::vector<Slot> m_slots;
+    const Sequence<Object::Member>& members_;
+    std::vector<Slot> slots_;
 };
 
 } // namespace corvane::workbench::json::internal

@@ -23,9 +23,9 @@ std::string StringOutputStream::description() const {
 }
 
 std::string StringOutputStream::take() {
-    m_text.resize(written());
-    std::string text = std::move(m_text);
-    m_text.clear();
+    text_.resize(written());
+    std::string text = std::move(text_);
+    text_.clear();
     useStringAsBuffer(0);
     return text;
 }
@@ -34,24 +34,24 @@ void StringOutputStream::flushBuffer() {
     if (bufferPosition() != bufferEnd()) {
         return;
     }
-    const std::size_t length = m_text.size();
-    if (length == m_text.max_size()) {
+    const std::size_t length = text_.size();
+    if (length == text_.max_size()) {
         throwTooLong();
     }
     const std::size_t doubled =
-        length > m_text.max_size() / 2 ? m_text.max_size() : std::max<std::size_t>(length * 2, 1);
-    m_text.resize(std::max(doubled, m_text.capacity()));
+        length > text_.max_size() / 2 ? text_.max_size() : std::max<std::size_t>(length * 2, 1);
+    text_.resize(std::max(doubled, text_.capacity()));
     useStringAsBuffer(length);
 }
 
 void StringOutputStream::writeLarge(std::string_view text) {
     const std::size_t length = written();
-    if (text.size() > m_text.max_size() - length) {
+    if (text.size() > text_.max_size() - length) {
         throwTooLong();
     }
-    m_text.resize(length);
-    m_text.append(text);
-    useStringAsBuffer(m_text.size());
+    text_.resize(length);
+    text_.append(text);
+    useStringAsBuffer(text_.size());
 }
 
 std::size_t StringOutputStream::written() const noexcept {
@@ -59,8 +59,8 @@ std::size_t StringOutputStream::written() const noexcept {
 }
 
 void StringOutputStream::useStringAsBuffer(std::size_t written) noexcept {
-    char* const begin = m_text.data();
-    setBuffer(begin, begin + written, begin + m_text.size());
+    char* const begin = text_.data();
+    setBuffer(begin, begin + written, begin + text_.size());
 }
 
 } // namespace corvane::workbench::json::internal

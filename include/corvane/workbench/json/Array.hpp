@@ -85,7 +85,7 @@ private:
 
     void decodeElements(utils::json::decoder::Array& source);
 
-    internal::Sequence<Value> m_elements;
+    internal::Sequence<Value> elements_;
 };
 
 } // namespace corvane::workbench::json

@@ -139,7 +139,7 @@ private:
     static tl::expected<Object, std::wstring>
     fromStringInternal(std::string_view text, MemberFilter filter, DecodingOptions options);
 
-    internal::Sequence<Member> m_members;
+    internal::Sequence<Member> members_;
 };
 
 } // namespace corvane::workbench::json

@@ -51,24 +51,24 @@ public:
     };
 
     /// Null.
-    Value() noexcept : m_null(), m_kind(Kind::Null) {}
+    Value() noexcept : null_(), kind_(Kind::Null) {}
     Value(Null) noexcept : Value() {}
-    Value(Object object) noexcept : m_object(std::move(object)), m_kind(Kind::Object) {}
-    Value(Array array) noexcept : m_array(std::move(array)), m_kind(Kind::Array) {}
+    Value(Object object) noexcept : object_(std::move(object)), kind_(Kind::Object) {}
+    Value(Array array) noexcept : array_(std::move(array)), kind_(Kind::Array) {}
     /// UTF-8.
     Value(std::string text);
     Value(std::string_view text);
     Value(const char* text);
     /// Exactly a bool: pointers and numbers do not become one.
     template <std::same_as<bool> T>
-    Value(T boolean) noexcept : m_boolean(boolean), m_kind(Kind::Boolean) {}
+    Value(T boolean) noexcept : boolean_(boolean), kind_(Kind::Boolean) {}
     /// Signed types become a signed integer, unsigned ones an unsigned integer.
     template <std::signed_integral T>
-    Value(T number) noexcept : m_signedInteger(number), m_kind(Kind::SignedInteger) {}
+    Value(T number) noexcept : signedInteger_(number), kind_(Kind::SignedInteger) {}
     template <std::unsigned_integral T>
         requires(!std::same_as<T, bool>)
-    Value(T number) noexcept : m_unsignedInteger(number), m_kind(Kind::UnsignedInteger) {}
-    Value(double number) noexcept : m_double(number), m_kind(Kind::Double) {}
+    Value(T number) noexcept : unsignedInteger_(number), kind_(Kind::UnsignedInteger) {}
+    Value(double number) noexcept : double_(number), kind_(Kind::Double) {}
 
     Value(const Value& other);
     /// Leaves `other` null.
@@ -78,13 +78,13 @@ public:
     Value& operator=(Value&& other) noexcept;
     ~Value() { clear(); }
 
-    [[nodiscard]] Kind kind() const noexcept { return m_kind; }
+    [[nodiscard]] Kind kind() const noexcept { return kind_; }
 
     /// T is one of the alternatives: Object, Array, std::string, std::int64_t, std::uint64_t,
     /// double, bool, Null.
     template <class T>
     [[nodiscard]] bool is() const noexcept {
-        return m_kind == kKindOf<T>;
+        return kind_ == kKindOf<T>;
     }
     /// The content if it is of that kind, else null.
     template <class T>
@@ -172,22 +172,22 @@ private:
     template <class T, class Self>
     [[nodiscard]] static auto& content(Self& value) noexcept {
         if constexpr (std::same_as<T, Object>) {
-            return value.m_object;
+            return value.object_;
         } else if constexpr (std::same_as<T, Array>) {
-            return value.m_array;
+            return value.array_;
         } else if constexpr (std::same_as<T, std::string>) {
             return static_cast<std::conditional_t<std::is_const_v<Self>, const T, T>&>(
-                *value.m_text);
+                *value.text_);
         } else if constexpr (std::same_as<T, std::int64_t>) {
-            return value.m_signedInteger;
+            return value.signedInteger_;
         } else if constexpr (std::same_as<T, std::uint64_t>) {
-            return value.m_unsignedInteger;
+            return value.unsignedInteger_;
         } else if constexpr (std::same_as<T, double>) {
-            return value.m_double;
+            return value.double_;
         } else if constexpr (std::same_as<T, bool>) {
-            return value.m_boolean;
+            return value.boolean_;
         } else {
-            return value.m_null;
+            return value.null_;
         }
     }
 
@@ -201,33 +201,33 @@ private:
 
     template <class Self, class Visitor>
     static decltype(auto) visit(Self& value, Visitor&& visitor) {
-        switch (value.m_kind) {
+        switch (value.kind_) {
         case Kind::Object:
-            return std::forward<Visitor>(visitor)(value.m_object);
+            return std::forward<Visitor>(visitor)(value.object_);
         case Kind::Array:
-            return std::forward<Visitor>(visitor)(value.m_array);
+            return std::forward<Visitor>(visitor)(value.array_);
         case Kind::String:
             return std::forward<Visitor>(visitor)(content<std::string>(value));
         case Kind::SignedInteger:
-            return std::forward<Visitor>(visitor)(value.m_signedInteger);
+            return std::forward<Visitor>(visitor)(value.signedInteger_);
         case Kind::UnsignedInteger:
-            return std::forward<Visitor>(visitor)(value.m_unsignedInteger);
+            return std::forward<Visitor>(visitor)(value.unsignedInteger_);
         case Kind::Double:
-            return std::forward<Visitor>(visitor)(value.m_double);
+            return std::forward<Visitor>(visitor)(value.double_);
         case Kind::Boolean:
-            return std::forward<Visitor>(visitor)(value.m_boolean);
+            return std::forward<Visitor>(visitor)(value.boolean_);
         case Kind::Null:
             break;
         }
-        return std::forward<Visitor>(visitor)(value.m_null);
+        return std::forward<Visitor>(visitor)(value.null_);
     }
 
     /// Makes the value null.
     void clear() noexcept {
-        if (m_kind <= Kind::String) {
+        if (kind_ <= Kind::String) {
             destroyContent();
         }
-        m_kind = Kind::Null;
+        kind_ = Kind::Null;
     }
     void destroyContent() noexcept;
     /// Moves the content of `other`, which becomes null, into this value, which is null.
@@ -236,16 +236,16 @@ private:
 
     // Each alternative takes one word: a std::string, much larger, is held through a pointer.
     union {
-        Object m_object;
-        Array m_array;
-        std::string* m_text;
-        std::int64_t m_signedInteger;
-        std::uint64_t m_unsignedInteger;
-        double m_double;
-        bool m_boolean;
-        Null m_null;
+        Object object_;
+        Array array_;
+        std::string* text_;
+        std::int64_t signedInteger_;
+        std::uint64_t unsignedInteger_;
+        double double_;
+        bool boolean_;
+        Null null_;
     };
-    Kind m_kind;
+    Kind kind_;
 };
 
 } // namespace corvane::workbench::json

@@ -34,31 +34,31 @@ public:
             emplace_back(element);
         }
     }
-    Sequence(Sequence&& other) noexcept : m_header(std::exchange(other.m_header, nullptr)) {}
+    Sequence(Sequence&& other) noexcept : header_(std::exchange(other.header_, nullptr)) {}
     /// What `other` is nested in may be this sequence.
     Sequence& operator=(const Sequence& other) {
         Sequence copy(other);
-        std::swap(m_header, copy.m_header);
+        std::swap(header_, copy.header_);
         return *this;
     }
     Sequence& operator=(Sequence&& other) noexcept {
         Sequence taken(std::move(other));
-        std::swap(m_header, taken.m_header);
+        std::swap(header_, taken.header_);
         return *this;
     }
     ~Sequence() {
-        if (m_header != nullptr) {
+        if (header_ != nullptr) {
             std::destroy(begin(), end());
-            ::operator delete(m_header);
+            ::operator delete(header_);
         }
     }
 
     [[nodiscard]] std::size_t size() const noexcept {
-        return m_header == nullptr ? 0 : m_header->size;
+        return header_ == nullptr ? 0 : header_->size;
     }
     [[nodiscard]] bool empty() const noexcept { return size() == 0; }
-    [[nodiscard]] T* begin() noexcept { return elementsOf(m_header); }
-    [[nodiscard]] const T* begin() const noexcept { return elementsOf(m_header); }
+    [[nodiscard]] T* begin() noexcept { return elementsOf(header_); }
+    [[nodiscard]] const T* begin() const noexcept { return elementsOf(header_); }
     [[nodiscard]] T* end() noexcept { return begin() + size(); }
     [[nodiscard]] const T* end() const noexcept { return begin() + size(); }
     [[nodiscard]] T& operator[](std::size_t index) noexcept { return begin()[index]; }
@@ -76,7 +76,7 @@ public:
         if (size < capacity()) {
             T* const element =
                 std::construct_at(begin() + size, std::forward<Arguments>(arguments)...);
-            ++m_header->size;
+            ++header_->size;
             return *element;
         }
         // The arguments may refer to an element: use them before the elements move.
@@ -90,7 +90,7 @@ public:
             throw;
         }
         moveTo(header);
-        ++m_header->size;
+        ++header_->size;
         return *element;
     }
 
@@ -98,7 +98,7 @@ public:
         T* const element = begin() + (position - begin());
         std::move(element + 1, end(), element);
         std::destroy_at(end() - 1);
-        --m_header->size;
+        --header_->size;
         return element;
     }
 
@@ -119,7 +119,7 @@ private:
     }
 
     [[nodiscard]] std::size_t capacity() const noexcept {
-        return m_header == nullptr ? 0 : m_header->capacity;
+        return header_ == nullptr ? 0 : header_->capacity;
     }
 
     [[nodiscard]] static Header* allocate(std::size_t capacity) {
@@ -136,10 +136,10 @@ private:
         std::uninitialized_move(begin(), end(), elementsOf(header));
         header->size = static_cast<std::uint32_t>(size());
         clear();
-        m_header = header;
+        header_ = header;
     }
 
-    Header* m_header = nullptr;
+    Header* header_ = nullptr;
 };
 
 } // namespace corvane::workbench::json::internal

@@ -32,7 +32,7 @@ private:
     /// Lets the whole string be the buffer, with the given part of it written already.
     void useStringAsBuffer(std::size_t written) noexcept;
 
-    std::string m_text;
+    std::string text_;
 };
 
 } // namespace corvane::workbench::json::internal
