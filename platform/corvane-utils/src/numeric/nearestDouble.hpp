@@ -23,7 +23,7 @@ inline constexpr int kMaximumExponent = 27;
 
 /// The highest power that a double holds exactly.
 inline constexpr int kMaximumExactPowerOf10 = 22;
-inline constexpr auto kPowersOf10 = [] {
+inline constexpr auto kDoublePowersOf10 = [] {
     std::array<double, kMaximumExactPowerOf10 + 1> powers{1.0};
     for (std::size_t index = 1; index < powers.size(); ++index) {
         powers[index] = powers[index - 1] * 10.0;
@@ -58,7 +58,7 @@ struct PowerOf5 {
 }
 
 /// From 5^-27 to 5^27.
-inline constexpr auto kPowersOf5 = [] {
+inline constexpr auto kTruncatedPowersOf5 = [] {
     std::array<PowerOf5, 2 * kMaximumExponent + 1> powers{};
     std::uint64_t power = 1;
     for (std::size_t exponent = 0; exponent <= kMaximumExponent; ++exponent) {
@@ -79,8 +79,8 @@ inline constexpr auto kPowersOf5 = [] {
         return std::nullopt;
     }
     const auto number = static_cast<double>(digits);
-    return exponent < 0 ? number / kPowersOf10[static_cast<std::size_t>(-exponent)]
-                        : number * kPowersOf10[static_cast<std::size_t>(exponent)];
+    return exponent < 0 ? number / kDoublePowersOf10[static_cast<std::size_t>(-exponent)]
+                        : number * kDoublePowersOf10[static_cast<std::size_t>(exponent)];
 }
 
 } // namespace detail
@@ -97,7 +97,7 @@ inline constexpr auto kPowersOf5 = [] {
         return std::nullopt;
     }
     const detail::PowerOf5& power =
-        detail::kPowersOf5[static_cast<std::size_t>(exponent + detail::kMaximumExponent)];
+        detail::kTruncatedPowersOf5[static_cast<std::size_t>(exponent + detail::kMaximumExponent)];
     const int shift = std::countl_zero(digits);
     const std::uint64_t product = multiply(digits << shift, power.bits).high;
 
