@@ -11,23 +11,38 @@ namespace corvane::utils::json {
 inline constexpr std::size_t kEight = 8;
 inline constexpr std::uint64_t kOnes = 0x0101010101010101U;
 
-[[nodiscard]] inline std::uint64_t loadEightBytes(const char* from) noexcept {
+template <class Word>
+[[nodiscard]] Word load(const char* from) noexcept {
     static_assert(std::endian::native == std::endian::little);
-    std::uint64_t bytes{};
+    Word bytes{};
     std::memcpy(&bytes, from, sizeof bytes);
     return bytes;
 }
 
-/// How many bytes at the front stand for themselves in a JSON string, which is all but control
-/// characters, quotes, backslashes and what is not ASCII.
+[[nodiscard]] inline std::uint64_t loadEightBytes(const char* from) noexcept {
+    return load<std::uint64_t>(from);
+}
+
+template <class Word>
+void store(char* to, Word bytes) noexcept {
+    std::memcpy(to, &bytes, sizeof bytes);
+}
+
+/// Tells the bytes that do not stand for themselves in a JSON string, which are control characters,
+/// quotes, backslashes and what is not ASCII: the highest bit of the first of them is the first one
+/// that is set.
+[[nodiscard]] constexpr std::uint64_t specialBytes(std::uint64_t bytes) noexcept {
+    // Changing one bit makes the quote a blank and of no other plain character a lower one. A
+    // borrow may set a bit wrongly, but only behind one that is set rightly.
+    static_assert(('"' ^ 0x02) == ' ');
+    return (((bytes ^ (0x02 * kOnes)) - 0x21 * kOnes) | ((bytes ^ ('\\' * kOnes)) - kOnes) |
+            bytes) &
+           (0x80 * kOnes);
+}
+
+/// How many bytes at the front stand for themselves.
 [[nodiscard]] constexpr std::size_t countPlainBytes(std::uint64_t bytes) noexcept {
-    // The highest bit of a byte tells. A borrow may set it wrongly, but only behind one that is
-    // set rightly.
-    const auto isZero = [](std::uint64_t word) { return (word - kOnes) & ~word; };
-    const std::uint64_t others = ((bytes - 0x20 * kOnes) | bytes | isZero(bytes ^ ('"' * kOnes)) |
-                                  isZero(bytes ^ ('\\' * kOnes))) &
-                                 (0x80 * kOnes);
-    return static_cast<std::size_t>(std::countr_zero(others)) / 8;
+    return static_cast<std::size_t>(std::countr_zero(specialBytes(bytes))) / 8;
 }
 
 /// How many bytes at the front are spaces.

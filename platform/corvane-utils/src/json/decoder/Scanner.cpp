@@ -11,6 +11,7 @@
 #include "../../string/Utf8Sequence.hpp"
 #include "../../string/surrogates.hpp"
 #include "../eightBytes.hpp"
+#include "../plainText.hpp"
 #include "blanks.hpp"
 #include "scanNumber.hpp"
 #include "syntaxError.hpp"
@@ -20,45 +21,6 @@ namespace corvane::utils::json::decoder::detail {
 namespace {
 
 constexpr std::ptrdiff_t kBlock = kEight;
-
-/// Goes behind the bytes that stand for themselves.
-[[nodiscard]] const char* skipPlainBytes(const char* position, const char* end) noexcept {
-    while (end - position >= kBlock) {
-        const std::size_t count = countPlainBytes(loadEightBytes(position));
-        position += count;
-        if (count != kEight) {
-            return position;
-        }
-    }
-    const auto isPlain = [](char character) {
-        const auto byte = static_cast<unsigned char>(character);
-        return byte >= 0x20 && byte < 0x80 && byte != '"' && byte != '\\';
-    };
-    while (position != end && isPlain(*position)) {
-        ++position;
-    }
-    return position;
-}
-
-/// Goes behind the well-formed sequences of two or three bytes, as far as they can be told
-/// without a second look.
-[[nodiscard]] const char* skipShortSequences(const char* position, const char* end) noexcept {
-    const auto byteAt = [&](std::size_t index) {
-        return static_cast<unsigned char>(position[index]);
-    };
-    const auto continues = [&](std::size_t index) { return (byteAt(index) & 0xC0U) == 0x80; };
-    while (end - position >= 3) {
-        const unsigned char first = byteAt(0);
-        if (first > 0xE0 && first < 0xF0 && first != 0xED && continues(1) && continues(2)) {
-            position += 3;
-        } else if (first >= 0xC2 && first < 0xE0 && continues(1)) {
-            position += 2;
-        } else {
-            break;
-        }
-    }
-    return position;
-}
 
 void appendUtf8(std::string& to, char32_t character) {
     std::array<char, 4> bytes{};

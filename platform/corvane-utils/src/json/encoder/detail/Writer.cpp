@@ -20,7 +20,7 @@ Writer::Ticket Writer::addMember(Container object, std::string_view name) {
     }
     // Most names are written whole and as they are, with all that is around them.
     if (char* const room = stream_.prepare(name.size() + 5)) {
-        if (char* end = quoteIfClean(name, room + putDueComma(room))) {
+        if (char* end = quoteIfPlain(name, room + putDueComma(room))) {
             end[0] = ':';
             end[1] = ' ';
             end += isIndented_ ? 2 : 1;
@@ -44,7 +44,7 @@ void Writer::writeString(Ticket value, std::string_view text) {
     take(value);
     // Most strings are written whole and as they are.
     if (char* const room = stream_.prepare(text.size() + 3)) {
-        if (char* const end = quoteIfClean(text, room + putDueComma(room))) {
+        if (char* const end = quoteIfPlain(text, room + putDueComma(room))) {
             stream_.commit(static_cast<std::size_t>(end - room));
             commaIsDue_ = true;
             return;

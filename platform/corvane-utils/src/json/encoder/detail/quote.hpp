@@ -7,57 +7,58 @@
 
 #include <corvane/utils/io/OutputStream.hpp>
 
-#include "Block.hpp"
+#include "../../plainText.hpp"
 
 namespace corvane::utils::json::encoder::detail {
 
-/// Copies a text of clean bytes; returns false, with some of it copied, when there are others.
-template <class Block>
-[[nodiscard]] bool copyIfClean(std::string_view text, char* to) noexcept {
-    const char* from = text.data();
-    std::size_t size = text.size();
-    for (; size > 16; size -= 16, from += 16, to += 16) {
-        const Block block(from);
-        block.copyTo(to);
-        if (!block.isClean()) {
-            return false;
-        }
-    }
-    // What is left is copied by its beginning and its end, which may overlap.
-    constexpr std::uint64_t blanks = 0x2020'2020'2020'2020U;
-    if (size >= 8) {
-        const auto first = load<std::uint64_t>(from);
-        const auto last = load<std::uint64_t>(from + size - 8);
-        store(to, first);
-        store(to + size - 8, last);
-        return Block(first, last).isClean();
-    }
+/// Copies up to seven bytes; returns whether all are plain.
+[[nodiscard]] inline bool copyShortIfPlain(const char* from, std::size_t size, char* to) noexcept {
+    // All of them are collected in one word, some of them twice.
+    std::uint64_t bytes = 0;
     if (size >= 4) {
         const auto first = load<std::uint32_t>(from);
         const auto last = load<std::uint32_t>(from + size - 4);
         store(to, first);
         store(to + size - 4, last);
-        return Block(first | std::uint64_t{last} << 32U, blanks).isClean();
+        bytes = first | std::uint64_t{last} << 32U;
+    } else if (size != 0) {
+        bytes = ' ' * kOnes;
+        for (const std::size_t place : {std::size_t{0}, size / 2, size - 1}) {
+            to[place] = from[place];
+            bytes = bytes << 8U | static_cast<unsigned char>(from[place]);
+        }
+    } else {
+        return true;
     }
-    if (size != 0) {
-        const char first = from[0];
-        const char middle = from[size / 2];
-        const char last = from[size - 1];
-        to[0] = first;
-        to[size / 2] = middle;
-        to[size - 1] = last;
-        const auto code = [](char byte) { return std::uint64_t{static_cast<unsigned char>(byte)}; };
-        return Block(code(first) | code(middle) << 8U | code(last) << 16U | blanks << 24U, blanks)
-            .isClean();
-    }
-    return true;
+    return specialBytes(bytes) == 0;
 }
 
-/// Writes a string of clean bytes; returns the end, or null when there are others.
+/// Copies a text; returns false, with some of it copied, unless all bytes are plain.
+[[nodiscard]] inline bool copyIfPlain(std::string_view text, char* to) noexcept {
+    const char* from = text.data();
+    std::size_t size = text.size();
+    const auto copyWord = [&](std::size_t place) {
+        const auto bytes = loadEightBytes(from + place);
+        store(to + place, bytes);
+        return specialBytes(bytes);
+    };
+    for (; size > 2 * kEight; size -= 2 * kEight, from += 2 * kEight, to += 2 * kEight) {
+        if ((copyWord(0) | copyWord(kEight)) != 0) {
+            return false;
+        }
+    }
+    if (size >= kEight) {
+        // The last two words may overlap.
+        return (copyWord(0) | copyWord(size - kEight)) == 0;
+    }
+    return copyShortIfPlain(from, size, to);
+}
+
+/// Writes a string of plain bytes; returns the end, or null when there are others.
 /// @pre There is room for the text and two quotes.
-[[nodiscard]] inline char* quoteIfClean(std::string_view text, char* to) noexcept {
+[[nodiscard]] inline char* quoteIfPlain(std::string_view text, char* to) noexcept {
     *to++ = '"';
-    if (!copyIfClean<Block>(text, to)) {
+    if (!copyIfPlain(text, to)) {
         return nullptr;
     }
     to += text.size();
