@@ -8,6 +8,10 @@
 
 #include <benchmark/benchmark.h>
 
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
+
 #include <exception>
 #include <iostream>
 #include <string>
@@ -39,10 +43,21 @@ void addBenchmarks(const Reader& reader, const Document& document) {
                                  });
 }
 
+/// Memory that goes back to the system and is fetched again costs as much as what is timed here,
+/// and whether it does depends on what was timed before.
+void keepFreedMemory() {
+#if defined(M_TRIM_THRESHOLD) && defined(M_MMAP_THRESHOLD)
+    constexpr int kMebibyte = 1 << 20;
+    mallopt(M_TRIM_THRESHOLD, 1024 * kMebibyte);
+    mallopt(M_MMAP_THRESHOLD, 32 * kMebibyte); // the highest that is accepted
+#endif
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     try {
+        keepFreedMemory();
         benchmark::Initialize(&argc, argv);
         std::vector<Document> documents;
         for (int argument = 1; argument < argc; ++argument) {

@@ -4,7 +4,6 @@
 
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
-#include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
 #include <corvane/workbench/json/Value.hpp>
 
@@ -86,18 +85,6 @@ void Array::decode(decoder::Array& source, DecodingOptions) {
     Array decoded;
     decoded.decodeElements(source);
     *this = std::move(decoded);
-}
-
-void Array::encode(encoder::Value& target) const {
-    encoder::Array array = target.writeArray();
-    encode(array);
-}
-
-void Array::encode(encoder::Array& target) const {
-    for (const Value& element : elements_) {
-        encoder::Value value = target.addElement();
-        element.encode(value);
-    }
 }
 
 tl::expected<Array, std::wstring> Array::fromString(std::string_view text,

@@ -6,7 +6,6 @@
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
-#include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
 #include <corvane/workbench/json/Value.hpp>
 
@@ -126,18 +125,6 @@ void Object::decodeInternal(decoder::Value& source, MemberFilter filter, Decodin
 void Object::decodeInternal(decoder::Object& source, MemberFilter filter, DecodingOptions options) {
     source.addFilter(filter);
     decode(source, options);
-}
-
-void Object::encode(encoder::Value& target) const {
-    encoder::Object object = target.writeObject();
-    encode(object);
-}
-
-void Object::encode(encoder::Object& target) const {
-    for (const Member& member : members_) {
-        encoder::Value value = target.addMember(member.first);
-        member.second.encode(value);
-    }
 }
 
 tl::expected<Object, std::wstring> Object::fromString(std::string_view text,

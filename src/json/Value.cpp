@@ -2,66 +2,16 @@
 
 #include "internal/text.hpp"
 
-#include <corvane/utils/json/decoder/Array.hpp>
-#include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
-#include <corvane/utils/numeric/format.hpp>
-#include <corvane/utils/string/BasicStaticString.hpp>
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <memory>
-#include <stdexcept>
 #include <utility>
-#include <variant>
 
 namespace corvane::workbench::json {
 
 namespace decoder = utils::json::decoder;
 namespace encoder = utils::json::encoder;
-
-namespace {
-
-using DoubleText = utils::string::BasicStaticString<char, 24>;
-
-[[nodiscard]] bool isWhole(double number) noexcept {
-    // Beyond 2^53 every double is.
-    return !(std::abs(number) < 9007199254740992.0) ||
-           number == static_cast<double>(static_cast<std::int64_t>(number));
-}
-
-/// A whole number that reads back as a double: with ".0", or an exponent where that would not fit.
-DoubleText formatWhole(double number) {
-    DoubleText text = utils::numeric::format(number);
-    const auto isDigitOrSign = [](char character) {
-        return (character >= '0' && character <= '9') || character == '-';
-    };
-    if (!std::ranges::all_of(text, isDigitOrSign)) {
-        return text;
-    }
-    constexpr std::string_view fraction = ".0";
-    if (text.size() + fraction.size() <= DoubleText::capacity()) {
-        return text.append(fraction);
-    }
-    text.overwrite([number](char* begin, char* end) {
-        return std::to_chars(begin, end, number, std::chars_format::scientific).ptr;
-    });
-    return text;
-}
-
-void writeDouble(encoder::Value& target, double number) {
-    if (!isWhole(number)) {
-        target.writeNumber(utils::numeric::format(number));
-    } else if (std::isfinite(number)) {
-        target.writeNumber(formatWhole(number));
-    } else {
-        target.writeNull();
-    }
-}
-
-} // namespace
 
 Value::Value(std::string text) : text_(new std::string(std::move(text))), kind_(Kind::String) {}
 Value::Value(std::string_view text) : Value() {
@@ -184,27 +134,6 @@ bool Value::operator==(const Value& other) const {
         break;
     }
     return true;
-}
-
-void Value::encode(encoder::Value& target) const {
-    switch (kind()) {
-    case Kind::Object:
-        return object_.encode(target);
-    case Kind::Array:
-        return array_.encode(target);
-    case Kind::String:
-        return target.writeString(*text_);
-    case Kind::SignedInteger:
-        return target.writeNumber(utils::numeric::format(signedInteger_));
-    case Kind::UnsignedInteger:
-        return target.writeNumber(utils::numeric::format(unsignedInteger_));
-    case Kind::Double:
-        return writeDouble(target, double_);
-    case Kind::Boolean:
-        return target.writeBool(boolean_);
-    case Kind::Null:
-        return target.writeNull();
-    }
 }
 
 tl::expected<Value, std::wstring> Value::fromString(std::string_view text,

@@ -146,6 +146,8 @@ private:
     void decodeNumber(const utils::json::decoder::Value& source);
     void decodeContainer(utils::json::decoder::Value& source, DecodingOptions options);
 
+    void encodeContent(utils::json::encoder::Value& target) const;
+
     template <class T>
     static constexpr Kind kKindOf = [] {
         if constexpr (std::same_as<T, Object>) {
