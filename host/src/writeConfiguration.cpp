@@ -1,5 +1,6 @@
 #include "writeConfiguration.hpp"
 
+#include "checkSaved.hpp"
 #include "reservedMembers.hpp"
 
 #include <corvane/utils/json/encoder/Array.hpp>
@@ -7,7 +8,10 @@
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
+#include <corvane/workbench/json/internal/StringOutputStream.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
+
+#include <string>
 
 namespace corvane::workbench::host {
 
@@ -42,10 +46,15 @@ void writeChildren(const ElementNode& parent, encoder::Object& object) {
 } // namespace
 
 void writeConfiguration(const ElementNode& root, corvane::utils::io::OutputStream<char>& stream) {
-    encoder::Document document(stream, encoder::Document::Format::Indented);
+    json::internal::StringOutputStream collected;
+    encoder::Document document(collected, encoder::Document::Format::Indented);
     encoder::Object object = document.root().writeObject();
     writeChildren(root, object);
     document.close();
+    const std::string text = collected.take();
+    checkSaved(root, text);
+    stream.write(text);
+    stream.flush();
 }
 
 } // namespace corvane::workbench::host

@@ -286,6 +286,10 @@ void TestPoint::save(encoder::Object& object) const {
             row.target.saveTo(array);
         }
     }
+    for (const auto& [name, content] : furtherMembers) {
+        encoder::Value value = object.addMember(name);
+        content.encode(value);
+    }
 }
 
 void TestPoint::makeDefault() {

@@ -8,6 +8,7 @@
 
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyKey.hpp>
+#include <corvane/workbench/json/Value.hpp>
 #include <corvane/workbench/model/AttributeReference.hpp>
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/process/EventReference.hpp>
@@ -101,6 +102,8 @@ public:
     static std::string defaultFailure;
     /// Thrown by the description of the properties when not empty.
     std::string configurationFailure;
+    /// Saved as well.
+    std::vector<std::pair<std::string, corvane::workbench::json::Value>> furtherMembers;
 
 private:
     void configureProperties(PropertyConfigurationContext& context) override;

@@ -1,6 +1,8 @@
 #include "WorkbenchFixture.hpp"
 
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -83,6 +85,58 @@ TEST_F(WorkbenchSave, KeepsGeneratedUuids) {
     const auto uuid = workbench.findElement("a")->uuid();
     loadClean(saved());
     EXPECT_EQ(workbench.findElement("a")->uuid(), uuid);
+}
+
+class WorkbenchSaveRefused : public WorkbenchTest {
+protected:
+    void SetUp() override {
+        file = folder.write("a.json", "old");
+        ASSERT_TRUE(load(R"({"children": [{"group": {"name": "a", "children": [
+                             {"point": {"name": "b"}}]}}]})")
+                        .loaded);
+    }
+    /// Why the configuration cannot be saved; the file must not have changed.
+    std::string refusal() {
+        std::string text = textOf(workbench.saveConfiguration(file));
+        EXPECT_EQ(TemporaryFolder::read(file), "old");
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+        corvane::workbench::json::internal::StringOutputStream stream;
+        EXPECT_EQ(textOf(workbench.saveConfiguration(stream)), text);
+        EXPECT_EQ(stream.take(), "");
+        return text;
+    }
+
+    TemporaryFolder folder;
+    std::filesystem::path file;
+};
+
+TEST_F(WorkbenchSaveRefused, WhenASkillSavesAMemberThatIsReserved) {
+    for (const std::string member : {"name", "UUID", "ACL", "children"}) {
+        point("a.b").furtherMembers = {{member, {}}};
+        EXPECT_EQ(refusal(), "the element “a.b” saves a member “" + member +
+                                 "”, which is reserved for the workbench");
+    }
+}
+
+TEST_F(WorkbenchSaveRefused, WhenASkillSavesAMemberTwice) {
+    point("a.b").furtherMembers = {{"more", {}}, {"limit", {}}};
+    EXPECT_EQ(refusal(), "the element “a.b” saves two members “limit”");
+    point("a.b").furtherMembers = {{"more", {}}};
+    EXPECT_TRUE(workbench.saveConfiguration(file));
+}
+
+TEST_F(WorkbenchSaveRefused, WhenASkillSavesWhatIsNestedTooDeeplyToBeRead) {
+    corvane::workbench::json::Value value;
+    for (int level = 0; level != 600; ++level) {
+        corvane::workbench::json::Array array;
+        array.append(std::move(value));
+        value = std::move(array);
+    }
+    point("a.b").furtherMembers.emplace_back("settings", std::move(value));
+    const std::string text = refusal();
+    EXPECT_THAT(text, testing::StartsWith(
+                          "the configuration could not be loaded again: JSON syntax error (line "));
+    EXPECT_THAT(text, testing::EndsWith("objects and arrays are nested deeper than 512 levels"));
 }
 
 } // namespace

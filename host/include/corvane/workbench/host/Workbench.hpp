@@ -81,7 +81,8 @@ public:
                                  const std::filesystem::path& file,
                                  const LoadOptions& options = {});
     /// Writes the configuration as indented JSON. The file is replaced when all is written, and
-    /// unchanged when that fails.
+    /// unchanged when that fails, or when what the skills write could not be loaded again: a member
+    /// that is reserved or comes twice, or settings that are nested too deeply.
     Result<void> saveConfiguration(const std::filesystem::path& file) const;
     /// The same to a stream, which is flushed but not closed.
     Result<void> saveConfiguration(corvane::utils::io::OutputStream<char>& stream) const;

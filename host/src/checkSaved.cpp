@@ -1,0 +1,76 @@
+#include "checkSaved.hpp"
+
+#include "reservedMembers.hpp"
+#include "text.hpp"
+
+#include <corvane/utils/io/MemoryInputStream.hpp>
+#include <corvane/utils/json/decoder/Array.hpp>
+#include <corvane/utils/json/decoder/Document.hpp>
+#include <corvane/utils/json/decoder/Exception.hpp>
+#include <corvane/utils/json/decoder/Object.hpp>
+#include <corvane/workbench/host/ElementNode.hpp>
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <unordered_set>
+
+namespace corvane::workbench::host {
+
+namespace {
+
+namespace decoder = corvane::utils::json::decoder;
+
+/// Whether the workbench itself writes that member of the element.
+bool isOfWorkbench(std::string_view member, const ElementNode& element) {
+    return member == kNameMember || member == kUuidMember ||
+           (member == kAccessControlMember && element.accessControl()) ||
+           (member == kChildrenMember && element.childCount() != 0);
+}
+
+void checkChildren(const ElementNode& parent, const decoder::Value& children);
+
+void checkElement(const ElementNode& element, const decoder::Value& value) {
+    std::unordered_set<std::string_view> seen;
+    auto object = value.asObject();
+    for (const auto& [name, member] : object) {
+        const std::string_view text = name.text();
+        if (isReservedMember(text) && (!isOfWorkbench(text, element) || seen.contains(text))) {
+            throw std::runtime_error("the element " + inQuotes(element.primaryKey()) +
+                                     " saves a member " + inQuotes(text) +
+                                     ", which is reserved for the workbench");
+        }
+        if (!seen.insert(text).second) {
+            throw std::runtime_error("the element " + inQuotes(element.primaryKey()) +
+                                     " saves two members " + inQuotes(text));
+        }
+        if (text == kChildrenMember) {
+            checkChildren(element, member);
+        }
+    }
+}
+
+void checkChildren(const ElementNode& parent, const decoder::Value& children) {
+    std::size_t index = 0;
+    auto array = children.asArray();
+    for (const decoder::Value& child : array) {
+        auto wrapper = child.asObject();
+        checkElement(parent.child(index++), (*wrapper.begin()).value);
+    }
+}
+
+} // namespace
+
+void checkSaved(const ElementNode& root, std::string_view text) {
+    corvane::utils::io::MemoryInputStream<char> stream(text);
+    try {
+        decoder::Document document(stream);
+        auto object = document.root().asObject();
+        checkChildren(root, (*object.begin()).value);
+    } catch (const decoder::Exception& exception) {
+        throw std::runtime_error(std::string("the configuration could not be loaded again: ") +
+                                 exception.message());
+    }
+}
+
+} // namespace corvane::workbench::host
