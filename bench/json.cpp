@@ -1,8 +1,10 @@
-// Times reading (with the destruction of what was read) and writing of JSON, side by side.
+// Times reading (with the destruction of what was read) and writing of JSON, side by side, and says
+// at the end how they compare.
 //
 //     bench-json [FILE...] [--benchmark_...]
 //
 // The files take the place of the generated documents.
+#include "Comparison.hpp"
 #include "Reader.hpp"
 #include "documents.hpp"
 
@@ -71,7 +73,8 @@ int main(int argc, char** argv) {
                 addBenchmarks(*reader, document);
             }
         }
-        benchmark::RunSpecifiedBenchmarks();
+        Comparison comparison;
+        benchmark::RunSpecifiedBenchmarks(&comparison);
         benchmark::Shutdown();
         return 0;
     } catch (const std::exception& error) {
