@@ -1,6 +1,12 @@
 #include "WorkbenchFixture.hpp"
 
+#include <cstdint>
+#include <memory>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -9,15 +15,40 @@ namespace skill = corvane::workbench::skill;
 
 class WorkbenchSkills : public WorkbenchTest {};
 
-/// Registers a class of the test skill a second time, as another skill would.
-class Impostor final : public skill::Skill::Class {
+class OtherElementClass final : public skill::Element::Class {
 public:
-    std::string_view id() const override { return "impostor"; }
-    std::wstring displayName() const override { return L"Impostor"; }
+    OtherElementClass(std::string_view id, std::uint8_t number) : id_(id), number_(number) {}
+    std::string_view id() const override { return id_; }
+    corvane::utils::core::Uuid uuid() const override {
+        return corvane::utils::core::Uuid({number_});
+    }
+    std::wstring displayName() const override { return L""; }
+    std::wstring description() const override { return L""; }
+    corvane::workbench::model::ElementCategory category() const override {
+        return corvane::workbench::model::ElementCategory::Device;
+    }
+    const skill::AbstractElementFactory& factory() const override {
+        throw std::logic_error("never used");
+    }
+    std::string defaultName() const override { return ""; }
+
+private:
+    std::string_view id_;
+    std::uint8_t number_;
+};
+
+/// Another skill beside the test skill; of its classes it registers the first one twice.
+class OtherSkill : public skill::Skill::Class {
+public:
+    explicit OtherSkill(std::vector<OtherElementClass> classes) : classes_(std::move(classes)) {}
+    std::string_view id() const override { return "other"; }
+    std::wstring displayName() const override { return L"Other"; }
     std::string_view version() const override { return "0"; }
     void registerElementClasses(Registry& registry) const override {
-        registry.registerElementClass(own_);
-        registry.registerElementClass(taken_);
+        registry.registerElementClass(classes_.front());
+        for (const OtherElementClass& elementClass : classes_) {
+            registry.registerElementClass(elementClass);
+        }
     }
     std::unique_ptr<skill::Skill> createSkill() const override {
         class Instance final : public skill::Skill {};
@@ -25,30 +56,13 @@ public:
     }
 
 private:
-    class ElementClass final : public skill::Element::Class {
-    public:
-        ElementClass(std::string_view id, std::uint8_t number) : id_(id), number_(number) {}
-        std::string_view id() const override { return id_; }
-        corvane::utils::core::Uuid uuid() const override {
-            return corvane::utils::core::Uuid({number_});
-        }
-        std::wstring displayName() const override { return L""; }
-        std::wstring description() const override { return L""; }
-        corvane::workbench::model::ElementCategory category() const override {
-            return corvane::workbench::model::ElementCategory::Device;
-        }
-        const skill::AbstractElementFactory& factory() const override {
-            throw std::logic_error("never used");
-        }
-        std::string defaultName() const override { return ""; }
+    std::vector<OtherElementClass> classes_;
+};
 
-    private:
-        std::string_view id_;
-        std::uint8_t number_;
-    };
-
-    ElementClass own_{"own", 77};
-    ElementClass taken_{"point", 78};
+class SkillWithoutInstance final : public OtherSkill {
+public:
+    using OtherSkill::OtherSkill;
+    std::unique_ptr<skill::Skill> createSkill() const override { return nullptr; }
 };
 
 TEST_F(WorkbenchSkills, HoldWhatTheirClassesRegistered) {
@@ -87,13 +101,33 @@ TEST_F(WorkbenchSkills, WorkInTwoWorkbenchesAtOnce) {
     EXPECT_TRUE(workbench.add("", "fixture"));
 }
 
+TEST_F(WorkbenchSkills, MayRegisterAClassTwice) {
+    static const OtherSkill skill({{"own", 77}, {"further", 78}});
+    ASSERT_TRUE(workbench.addSkill(skill));
+    EXPECT_EQ(workbench.skills().back()->elementClasses().size(), 2U);
+}
+
 TEST_F(WorkbenchSkills, ThatCannotBeUsedLeaveEverythingAsItWas) {
-    static const Impostor impostor;
-    EXPECT_EQ(textOf(workbench.addSkill(impostor)),
-              "the skill “impostor” cannot be used: there are two element classes with the id "
-              "“point”");
-    EXPECT_EQ(workbench.skills().size(), 1U);
-    EXPECT_EQ(workbench.elementClasses().find("own"), nullptr);
+    struct Case {
+        const skill::Skill::Class& skill;
+        std::string reason;
+    };
+    const OtherSkill takenId({{"own", 77}, {"point", 78}});
+    const OtherSkill emptyId({{"own", 77}, {"", 78}});
+    const OtherSkill sameUuid({{"own", 77}, {"further", 77}});
+    const SkillWithoutInstance noInstance({{"own", 77}});
+    for (const Case& refused :
+         {Case{takenId, "there are two element classes with the id “point”"},
+          {emptyId, "an element class must not have an empty id"},
+          {sameUuid, "the element classes “own” and “further” have the same UUID "
+                     "4d000000-0000-0000-0000-000000000000"},
+          {noInstance, "it makes no instance of itself"}}) {
+        EXPECT_EQ(textOf(workbench.addSkill(refused.skill)),
+                  "the skill “other” cannot be used: " + refused.reason);
+        EXPECT_EQ(workbench.skills().size(), 1U);
+        EXPECT_EQ(workbench.elementClasses().all().size(), 4U);
+        EXPECT_EQ(workbench.elementClasses().find("own"), nullptr);
+    }
 }
 
 TEST_F(WorkbenchSkills, FromAMissingLibraryAreAProblem) {
