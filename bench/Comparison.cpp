@@ -17,12 +17,6 @@ double median(std::vector<double> times) {
     return *middle;
 }
 
-void addIfNew(std::vector<std::string>& names, const std::string& name) {
-    if (std::ranges::find(names, name) == names.end()) {
-        names.push_back(name);
-    }
-}
-
 } // namespace
 
 bool Comparison::ReportContext(const Context& context) {
@@ -37,11 +31,7 @@ void Comparison::ReportRuns(const std::vector<Run>& runs) {
         if (run.run_type != Run::RT_Iteration || run.skipped || slash == std::string::npos) {
             continue;
         }
-        const std::string task = name.substr(0, slash);
-        const std::string library = name.substr(slash + 1);
-        addIfNew(tasks_, task);
-        addIfNew(libraries_, library);
-        times_[task][library].push_back(run.GetAdjustedCPUTime());
+        times_[name.substr(0, slash)][name.substr(slash + 1)].push_back(run.GetAdjustedCPUTime());
     }
 }
 
@@ -49,21 +39,16 @@ void Comparison::Finalize() {
     shown_.Finalize();
     std::ostream& out = GetErrorStream();
     out << "\nHow many times as fast as each library we are:\n\n";
-    std::size_t width = 0;
-    for (const std::string& library : libraries_) {
-        width = std::max(width, library.size());
-    }
-    for (const std::string& task : tasks_) {
-        Times& times = times_[task];
-        if (!times.contains(kOurs)) {
+    for (const auto& [task, times] : times_) {
+        const auto ours = times.find(kOurs);
+        if (ours == times.end()) {
             continue;
         }
-        const double ours = median(times[kOurs]);
         out << task << '\n';
-        for (const std::string& library : libraries_) {
-            if (library != kOurs && times.contains(library)) {
-                out << std::format("    {:<{}} {:6.2f}\n", library, width,
-                                   median(times[library]) / ours);
+        for (const auto& [library, libraryTimes] : times) {
+            if (library != kOurs) {
+                out << std::format("    {:<12}{:6.2f}\n", library,
+                                   median(libraryTimes) / median(ours->second));
             }
         }
     }

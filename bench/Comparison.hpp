@@ -25,9 +25,6 @@ private:
 
     /// By the task (what is done with which document) and the library.
     std::map<std::string, Times> times_;
-    /// In the order in which they were seen first.
-    std::vector<std::string> tasks_;
-    std::vector<std::string> libraries_;
 };
 
 } // namespace corvane::bench

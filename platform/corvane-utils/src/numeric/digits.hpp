@@ -19,7 +19,8 @@ inline constexpr std::size_t kBitsOfADigit = 8;
     // From one number of eight digits to two of four, four of two and eight of one, each half in
     // a lane of its own. A lane with quotient q and remainder r becomes q + (r << width), which is
     // (the lane << width) - q * ((divisor << width) - 1).
-    const std::uint64_t fours = (number << 32U) - number / 10'000 * ((10'000ULL << 32U) - 1);
+    const std::uint64_t thousands = static_cast<std::uint32_t>(number) / 10'000U;
+    const std::uint64_t fours = (number << 32U) - thousands * ((std::uint64_t{10'000} << 32U) - 1);
     const std::uint64_t hundreds = ((fours * 10'486) >> 20U) & 0x0000'007F'0000'007FU;
     const std::uint64_t twos = (fours << 16U) - hundreds * ((100U << 16U) - 1);
     const std::uint64_t tens = ((twos * 103) >> 10U) & 0x000F'000F'000F'000FU;

@@ -12,8 +12,8 @@ struct Wide {
     friend constexpr bool operator==(const Wide&, const Wide&) noexcept = default;
 };
 
-[[nodiscard]] constexpr Wide multiply(std::uint64_t left, std::uint64_t right) noexcept {
-    // By the halves of both numbers: standard C++ has no name for the one instruction that does it.
+/// What multiply() does without help of the compiler: by the halves of both numbers.
+[[nodiscard]] constexpr Wide multiplyByHalves(std::uint64_t left, std::uint64_t right) noexcept {
     constexpr std::uint64_t half = 0xFFFF'FFFFU;
     const std::uint64_t lowLow = (left & half) * (right & half);
     const std::uint64_t lowHigh = (left & half) * (right >> 32U);
@@ -22,6 +22,17 @@ struct Wide {
     const std::uint64_t middle = (lowLow >> 32U) + (lowHigh & half) + (highLow & half);
     return {highHigh + (lowHigh >> 32U) + (highLow >> 32U) + (middle >> 32U),
             (middle << 32U) | (lowLow & half)};
+}
+
+/// One instruction where the compiler has a name for it.
+[[nodiscard]] constexpr Wide multiply(std::uint64_t left, std::uint64_t right) noexcept {
+#if defined(__SIZEOF_INT128__)
+    __extension__ using Product = unsigned __int128;
+    const Product product = static_cast<Product>(left) * right;
+    return {static_cast<std::uint64_t>(product >> 64U), static_cast<std::uint64_t>(product)};
+#else
+    return multiplyByHalves(left, right);
+#endif
 }
 
 } // namespace corvane::utils::numeric
