@@ -28,23 +28,32 @@ bool isOfWorkbench(std::string_view member, const ElementNode& element) {
            (member == kChildrenMember && element.childCount() != 0);
 }
 
-void checkChildren(const ElementNode& parent, const decoder::Value& children);
-
-void checkElement(const ElementNode& element, const decoder::Value& value) {
+void checkNames(const ElementNode& element, const decoder::Value& value) {
     std::unordered_set<std::string_view> seen;
     auto object = value.asObject();
     for (const auto& [name, member] : object) {
         const std::string_view text = name.text();
-        if (isReservedMember(text) && (!isOfWorkbench(text, element) || seen.contains(text))) {
+        const bool isNew = seen.insert(text).second;
+        if (isReservedMember(text) && !(isNew && isOfWorkbench(text, element))) {
             throw std::runtime_error("the element " + inQuotes(element.primaryKey()) +
                                      " saves a member " + inQuotes(text) +
                                      ", which is reserved for the workbench");
         }
-        if (!seen.insert(text).second) {
+        if (!isNew) {
             throw std::runtime_error("the element " + inQuotes(element.primaryKey()) +
                                      " saves two members " + inQuotes(text));
         }
-        if (text == kChildrenMember) {
+    }
+}
+
+void checkChildren(const ElementNode& parent, const decoder::Value& children);
+
+void checkElement(const ElementNode& element, const decoder::Value& value) {
+    // Only then are the children known to be those that the workbench wrote.
+    checkNames(element, value);
+    auto object = value.asObject();
+    for (const auto& [name, member] : object) {
+        if (name == kChildrenMember) {
             checkChildren(element, member);
         }
     }

@@ -118,6 +118,16 @@ TEST_F(WorkbenchSaveRefused, WhenASkillSavesAMemberThatIsReserved) {
     }
 }
 
+TEST_F(WorkbenchSaveRefused, WhenASkillSavesChildrenOfItsOwnInFrontOfThoseThatThereAre) {
+    ASSERT_EQ(textOf(workbench.add("a.b", "group", "c")), "success");
+    for (const std::string_view children : {"null", "[]", "[1]", "[{}]", "[{}, {}, {}]"}) {
+        point("a.b").furtherMembers = {
+            {"children", corvane::workbench::json::Value::fromString(children).value()}};
+        EXPECT_EQ(refusal(), "the element “a.b” saves a member “children”, which is reserved for "
+                             "the workbench");
+    }
+}
+
 TEST_F(WorkbenchSaveRefused, WhenASkillSavesAMemberTwice) {
     point("a.b").furtherMembers = {{"more", {}}, {"limit", {}}};
     EXPECT_EQ(refusal(), "the element “a.b” saves two members “limit”");

@@ -146,6 +146,7 @@ private:
     void decodeNumber(const utils::json::decoder::Value& source);
     void decodeContainer(utils::json::decoder::Value& source, DecodingOptions options);
 
+    /// encode(), to be inlined where values are written in a row.
     void encodeContent(utils::json::encoder::Value& target) const;
 
     template <class T>

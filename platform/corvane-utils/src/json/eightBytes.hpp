@@ -52,7 +52,7 @@ void store(char* to, Word bytes) noexcept {
 
 /// How many bytes at the front are digits.
 [[nodiscard]] constexpr std::size_t countDigits(std::uint64_t bytes) noexcept {
-    // As above: the first bit that is set is right.
+    // As in specialBytes(), the first bit that is set is right.
     const std::uint64_t digits = bytes ^ ('0' * kOnes);
     const std::uint64_t others = (digits | (digits + 0x76 * kOnes)) & (0x80 * kOnes);
     return static_cast<std::size_t>(std::countr_zero(others)) / 8;

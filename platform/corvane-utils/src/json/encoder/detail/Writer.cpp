@@ -11,8 +11,7 @@ Writer::Writer(io::OutputStream<char>& stream, bool isIndented)
 
 Writer::~Writer() = default;
 
-// What every token goes through ends with the call of what is rare, so that it has no registers to
-// save.
+// What every token goes through calls what is rare only at its end: then it saves no registers.
 
 Writer::Ticket Writer::addMember(Container object, std::string_view name) {
     if (expected_ != object.ticket || isIndented_) [[unlikely]] {

@@ -27,7 +27,7 @@ public:
 
     void push(Level level) {
         levels_[++depth_] = level;
-        // In time for the next one, as what is done last is done without saving any registers.
+        // For the next one: a call at the end of a function makes it save no registers.
         if (depth_ + 1 == levels_.size()) {
             grow();
         }

@@ -95,7 +95,7 @@ private:
     [[nodiscard]] Container addLevel(Ticket value, char end);
     /// Has something be added to the container next, with all inside it closed.
     void enter(Container container);
-    /// @pre Something is to be closed.
+    /// @pre Something is to be closed, or the document ends.
     void closeDownTo(std::size_t depth);
     void closeSlowly(std::size_t depth);
     /// As putDueComma() does, whether there is room or not.
