@@ -1,5 +1,7 @@
 #include "PumpStationTest.hpp"
 
+#include "demo/findProperty.hpp"
+
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/encoder/Document.hpp>
@@ -16,7 +18,6 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <stdexcept>
 
 namespace pump_station::tests {
@@ -30,37 +31,6 @@ using corvane::utils::string::toWide;
 using corvane::workbench::json::internal::StringOutputStream;
 
 namespace {
-
-std::string_view takePart(std::string_view& path) {
-    const std::size_t end = std::min(path.find('.'), path.size());
-    const std::string_view part = path.substr(0, end);
-    path.remove_prefix(std::min(end + 1, path.size()));
-    return part;
-}
-
-std::optional<skill::EditableProperty> find(auto& described, std::string_view path) {
-    const std::string_view name = takePart(path);
-    std::optional<skill::EditableProperty> found;
-    const auto pick = [&](const skill::EditableProperty& candidate) {
-        if (candidate.name == name) {
-            found = candidate;
-        }
-    };
-    described.forEachEditableProperty(pick);
-    if (!found || path.empty()) {
-        return found;
-    }
-    const std::string wanted(takePart(path));
-    std::optional<skill::EditableProperty> foundInRow;
-    std::size_t index = 0;
-    const auto pickRow = [&](skill::SubElement& row) {
-        if (std::to_string(index++) == wanted) {
-            foundInRow = find(row, path);
-        }
-    };
-    found->forEachSubElement(pickRow);
-    return foundInRow;
-}
 
 template <class T>
 std::string messageOf(const tl::expected<T, std::wstring>& result) {
@@ -173,11 +143,7 @@ skill::EditableProperty PumpStationTest::property(std::string_view key,
     if (node == nullptr) {
         throw std::runtime_error("no element " + std::string(key));
     }
-    auto found = find(*node->skillElement(), path);
-    if (!found) {
-        throw std::runtime_error("no property " + std::string(path));
-    }
-    return *std::move(found);
+    return demo::findProperty(*node, path);
 }
 
 std::string PumpStationTest::set(std::string_view key, std::string_view path,
