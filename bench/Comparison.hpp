@@ -1,4 +1,3 @@
-// Puts the other libraries' times beside ours once all benchmarks have run.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -9,6 +8,8 @@
 
 namespace corvane::bench {
 
+/// Puts the other libraries' times beside ours once all benchmarks have run.
+///
 /// Shows the benchmarks as usual. At the end it says, on the standard error stream, how many times
 /// as long as ours each library's median CPU time is.
 class Comparison final : public benchmark::BenchmarkReporter {

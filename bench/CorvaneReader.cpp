@@ -1,5 +1,4 @@
 #include "Reader.hpp"
-
 #include <corvane/workbench/json/Value.hpp>
 
 #include <utility>

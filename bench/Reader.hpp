@@ -1,5 +1,3 @@
-// A JSON library under comparison: it reads a text into its own document, which can be written
-// again. Each library enters itself from its own source file.
 #pragma once
 
 #include <memory>
@@ -21,6 +19,9 @@ public:
     [[nodiscard]] virtual std::string write() const = 0;
 };
 
+/// A JSON library under comparison: it reads a text into its own document, which can be written
+/// again. Each library enters itself from its own source file.
+///
 /// Enters itself into the list as it is constructed; meant for static objects.
 class Reader {
 public:

@@ -1,5 +1,6 @@
-// The texts that the libraries are compared on.
 #pragma once
+
+// The texts that the libraries are compared on.
 
 #include <string>
 #include <vector>

@@ -4,10 +4,10 @@
 // well the caches serve, is the same.
 #include "host/TestSkill.hpp"
 
+#include <benchmark/benchmark.h>
+
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
-
-#include <benchmark/benchmark.h>
 
 #include <cstdint>
 #include <ctime>

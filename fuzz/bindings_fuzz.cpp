@@ -23,7 +23,7 @@ const PropertyKey kExtra;
 
 class Input {
 public:
-    Input(const std::uint8_t* data, std::size_t size) : next_{data}, end_{data + size} {}
+    Input(const std::uint8_t* data, std::size_t size) : next_(data), end_(data + size) {}
     [[nodiscard]] bool empty() const { return next_ == end_; }
     std::size_t below(std::size_t limit) { return empty() ? 0 : *next_++ % limit; }
 
@@ -61,7 +61,7 @@ private:
 
 class Scene {
 public:
-    explicit Scene(Input& input) : input_{input} {
+    explicit Scene(Input& input) : input_(input) {
         for (std::size_t i = 0; i + 1 < nodes_.size(); ++i) {
             nodes_[i].child = &nodes_[i + 1];
         }
@@ -153,7 +153,7 @@ private:
 
     class Depth {
     public:
-        explicit Depth(int& depth) : depth_{depth} { ++depth_; }
+        explicit Depth(int& depth) : depth_(depth) { ++depth_; }
         Depth(const Depth&) = delete;
         Depth& operator=(const Depth&) = delete;
         ~Depth() { --depth_; }

@@ -1,6 +1,5 @@
 // Reads the input as a duration. What is read must be written and read back equal.
 #include "promise.hpp"
-
 #include <corvane/workbench/chrono/Duration.hpp>
 
 #include <cstddef>

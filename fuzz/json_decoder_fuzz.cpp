@@ -1,7 +1,6 @@
 // Decodes any text. What is refused must be refused with a place in the text; what is accepted
 // must be found at its place and must survive being encoded and decoded again.
 #include "promise.hpp"
-
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/io/OutputStream.hpp>
 #include <corvane/utils/json/decoder/Array.hpp>

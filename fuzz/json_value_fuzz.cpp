@@ -2,7 +2,6 @@
 // libraries must agree about it.
 #include "../tests/json/judges.hpp"
 #include "promise.hpp"
-
 #include <corvane/workbench/json/Value.hpp>
 
 #include <cstddef>

@@ -1,6 +1,5 @@
 // Key splitting against a plain splitting of its own, on any bytes.
 #include "../tests/model/internal/naiveKeys.hpp"
-
 #include <corvane/workbench/model/internal/ElementReferenceData.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>
 

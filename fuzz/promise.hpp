@@ -1,5 +1,6 @@
-// Stops a fuzz target when something that is promised does not hold.
 #pragma once
+
+// Stops a fuzz target when something that is promised does not hold.
 
 #include <cstdio>
 #include <cstdlib>

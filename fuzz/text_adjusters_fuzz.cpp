@@ -1,7 +1,6 @@
 // Plays the input as an editing session in a time stamp box and in a UUID box. After every step the
 // text must have its canonical shape and the selection must lie within it.
 #include "promise.hpp"
-
 #include <corvane/workbench/bindings/functional.hpp>
 
 #include <algorithm>

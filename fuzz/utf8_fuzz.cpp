@@ -1,7 +1,6 @@
 // Decodes any bytes as UTF-8, in one piece and byte by byte, with ICU as the judge, and takes any
 // code units as UTF-16.
 #include "promise.hpp"
-
 #include <corvane/utils/string/detail/Utf16CodeUnitCounter.hpp>
 #include <corvane/utils/string/detail/Utf16Encoder.hpp>
 #include <corvane/utils/string/detail/Utf8Decoder.hpp>

@@ -1,5 +1,4 @@
 #include "MixerClass.hpp"
-
 #include <corvane/workbench/skill/Skill.hpp>
 
 namespace first_skill {

@@ -1,7 +1,6 @@
 #include "Mixer.hpp"
 
 #include "editors.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>

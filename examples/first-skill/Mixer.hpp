@@ -1,10 +1,7 @@
 #pragma once
 
-// A mixer: its top speed, another mixer whose speed it follows, and the steps of its recipe.
-
 #include "Steps.hpp"
 #include "names.hpp"
-
 #include <corvane/workbench/model/AttributeReference.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
@@ -12,6 +9,7 @@
 
 namespace first_skill {
 
+/// A mixer: its top speed, another mixer whose speed it follows, and the steps of its recipe.
 class Mixer final : public workbench::skill::Element {
 public:
     void forEachEditableProperty(

@@ -1,9 +1,6 @@
 #pragma once
 
-// Describes mixers to the workbench, and makes them.
-
 #include "names.hpp"
-
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
@@ -16,6 +13,7 @@ public:
     copyElement(const workbench::skill::Element& other) const override;
 };
 
+/// Describes mixers to the workbench, and makes them.
 class MixerClass final : public workbench::skill::Element::Class {
 public:
     std::string_view id() const override { return "FirstSkill.Mixer"; }

@@ -1,7 +1,6 @@
 #include "Step.hpp"
 
 #include "editors.hpp"
-
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/encoder/Array.hpp>

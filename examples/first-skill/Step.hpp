@@ -1,9 +1,6 @@
 #pragma once
 
-// A step of a mixer's recipe: a row of its list.
-
 #include "names.hpp"
-
 #include <corvane/workbench/bindings/PropertyKey.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
 
@@ -19,6 +16,7 @@ class Array;
 
 namespace first_skill {
 
+/// A step of a mixer's recipe: a row of its list.
 class Step final : public workbench::skill::SubElement {
 public:
     /// The mixer's property that holds the steps.

@@ -1,10 +1,6 @@
 #pragma once
 
-// The steps of a mixer. Stands between the mixer, whose property holds it, and the rows: it adds up
-// their errors and passes on what they raise. A step keeps its address while it is in the list.
-
 #include "Step.hpp"
-
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 
 #include <cstddef>
@@ -13,6 +9,8 @@
 
 namespace first_skill {
 
+/// The steps of a mixer. Stands between the mixer, whose property holds it, and the rows: it adds
+/// up their errors and passes on what they raise. A step keeps its address while it is in the list.
 class Steps final : public workbench::bindings::PropertyContainer {
 public:
     Steps() = default;

@@ -4,7 +4,6 @@
 // the user enters becomes a value. The values must live as long as the descriptions.
 
 #include "names.hpp"
-
 #include <corvane/workbench/skill/EditableProperty.hpp>
 
 #include <cstdint>

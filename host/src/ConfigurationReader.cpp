@@ -5,7 +5,6 @@
 #include "reservedMembers.hpp"
 #include "text.hpp"
 #include "treeRules.hpp"
-
 #include <corvane/utils/json/decoder/Exception.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
@@ -105,7 +104,7 @@ private:
 
     void readUuid(const decoder::Value& value) {
         const std::string_view text = value.asString().view();
-        const auto uuid = corvane::utils::core::Uuid::parse(text);
+        const auto uuid = utils::core::Uuid::parse(text);
         if (!uuid) {
             throw Fault(value.location(), inQuotes(text) + " is not a UUID");
         }
@@ -206,9 +205,8 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
     }
     auto object = value.asObject();
 
-    auto node =
-        std::make_unique<ElementNode>(*elementClass, elementClass->factory().createElement(),
-                                      std::string(), corvane::utils::core::Uuid());
+    auto node = std::make_unique<ElementNode>(
+        *elementClass, elementClass->factory().createElement(), std::string(), utils::core::Uuid());
     node->parent_ = &parent;
     node->line_ = location.line();
     node->column_ = location.column();

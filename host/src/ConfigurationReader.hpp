@@ -1,11 +1,6 @@
 #pragma once
 
-// Builds the elements of a configuration in one pass over its JSON text. The workbench's own
-// members are taken out by a filter, so that the skill's half sees only what is its own, and
-// children are built on the way.
-
 #include "ProgressReport.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
@@ -24,6 +19,9 @@ class ElementNode;
 class ElementTree;
 class LoadContext;
 
+/// Builds the elements of a configuration in one pass over its JSON text. The workbench's own
+/// members are taken out by a filter, so that the skill's half sees only what is its own, and
+/// children are built on the way.
 class ConfigurationReader {
 public:
     ConfigurationReader(const ElementClassRegistry& classes, const LoadOptions& options,
@@ -31,20 +29,20 @@ public:
                         std::vector<Problem>& problems);
 
     /// Fills the tree from the root value. False when the load has ended with a problem.
-    [[nodiscard]] bool read(const corvane::utils::json::decoder::Value& root);
+    [[nodiscard]] bool read(const utils::json::decoder::Value& root);
 
 private:
     struct Fault;
     struct GivenUp;
     class ElementMembers;
 
-    void readRoot(const corvane::utils::json::decoder::Value& root);
-    void readChildren(ElementNode& parent, const corvane::utils::json::decoder::Value& children);
-    void readChild(ElementNode& parent, const corvane::utils::json::decoder::Value& child);
-    void readElement(ElementNode& parent, const corvane::utils::json::decoder::Name& classId,
-                     const corvane::utils::json::decoder::Value& value);
+    void readRoot(const utils::json::decoder::Value& root);
+    void readChildren(ElementNode& parent, const utils::json::decoder::Value& children);
+    void readChild(ElementNode& parent, const utils::json::decoder::Value& child);
+    void readElement(ElementNode& parent, const utils::json::decoder::Name& classId,
+                     const utils::json::decoder::Value& value);
     /// Turns the exception being handled into a problem and ends the load unless it goes on.
-    void reportCurrentException(const corvane::utils::json::decoder::Location& fallback);
+    void reportCurrentException(const utils::json::decoder::Location& fallback);
 
     const ElementClassRegistry& classes_;
     const LoadOptions& options_;
@@ -59,6 +57,6 @@ private:
 /// A problem in a file from a caught exception: located where the exception says, else at the
 /// fallback.
 [[nodiscard]] Problem problemOf(const std::exception& exception, const std::filesystem::path& file,
-                                const corvane::utils::json::decoder::Location& fallback = {});
+                                const utils::json::decoder::Location& fallback = {});
 
 } // namespace corvane::workbench::host

@@ -21,7 +21,7 @@ void ElementClassRegistry::registerElementClass(const skill::Element::Class& ele
         }
         throw std::invalid_argument("there are two element classes with the id " + inQuotes(id));
     }
-    const corvane::utils::core::Uuid uuid = elementClass.uuid();
+    const utils::core::Uuid uuid = elementClass.uuid();
     if (const auto other = byUuid_.find(uuid); other != byUuid_.end()) {
         throw std::invalid_argument("the element classes " + inQuotes(other->second->id()) +
                                     " and " + inQuotes(id) + " have the same UUID " +

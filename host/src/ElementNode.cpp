@@ -2,7 +2,6 @@
 
 #include "ElementTree.hpp"
 #include "ReferenceProxy.hpp"
-
 #include <corvane/workbench/model/internal/ElementReferenceData.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
 
@@ -22,7 +21,7 @@ ElementNode::ElementNode(ElementTree& tree) : tree_(&tree), properties_(*this) {
 
 ElementNode::ElementNode(const skill::Element::Class& elementClass,
                          std::unique_ptr<skill::Element> skillElement, std::string name,
-                         const corvane::utils::core::Uuid& uuid)
+                         const utils::core::Uuid& uuid)
     : elementClass_(&elementClass), name_(std::move(name)), uuid_(uuid), properties_(*this),
       skillElement_(std::move(skillElement)) {
     skill::internal::ElementAccess::attach(*skillElement_, *this);
@@ -63,7 +62,7 @@ std::size_t ElementNode::depth() const noexcept {
     return result;
 }
 
-corvane::utils::string::BasicStringView<char> ElementNode::nameImpl() const {
+utils::string::BasicStringView<char> ElementNode::nameImpl() const {
     return name_;
 }
 
@@ -87,7 +86,7 @@ std::string ElementNode::primaryKeyImpl() const {
     return result;
 }
 
-corvane::utils::core::Uuid ElementNode::uuidImpl() const {
+utils::core::Uuid ElementNode::uuidImpl() const {
     return uuid_;
 }
 
@@ -126,7 +125,7 @@ bool ElementNode::isDescendentOfImpl(const model::Element& other) const {
 }
 
 bool ElementNode::forEachAttributeImpl(
-    const corvane::utils::core::function_ref<bool(const model::Attribute&)>& callback) const {
+    const utils::core::function_ref<bool(const model::Attribute&)>& callback) const {
     if (skillElement_ == nullptr) {
         return false;
     }
@@ -141,14 +140,14 @@ bool ElementNode::forEachAttributeImpl(
 }
 
 bool ElementNode::forEachEventImpl(
-    const corvane::utils::core::function_ref<bool(const process::Event&)>& callback,
+    const utils::core::function_ref<bool(const process::Event&)>& callback,
     bool /*forwardedFlag*/) const {
     return skillElement_ != nullptr &&
            skill::internal::ElementAccess::forEachEvent(*skillElement_, callback);
 }
 
 bool ElementNode::forEachTaskImpl(
-    const corvane::utils::core::function_ref<bool(const process::Task&)>& callback) const {
+    const utils::core::function_ref<bool(const process::Task&)>& callback) const {
     return skillElement_ != nullptr &&
            skill::internal::ElementAccess::forEachTask(*skillElement_, callback);
 }

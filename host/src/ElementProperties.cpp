@@ -9,7 +9,7 @@ void ElementProperties::recount() {
 }
 
 void ElementProperties::forEachSubPropertyContainer(
-    const corvane::utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,
+    const utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,
     bool /*includeInvisible*/) {
     if (skill::Element* skillElement = element_.skillElement()) {
         callback(*skillElement);
@@ -21,7 +21,7 @@ void ElementProperties::forEachSubPropertyContainer(
 
 // An element's own properties are those of the skill's half.
 void ElementProperties::forEachLocalCrossReference(
-    const corvane::utils::core::function_ref<void(bindings::CrossReferenceController&)>&
+    const utils::core::function_ref<void(bindings::CrossReferenceController&)>&
     /*callback*/,
     bool /*includeInvisible*/) {}
 

@@ -1,9 +1,7 @@
 #include "ElementTree.hpp"
 
 #include "ReferenceProxy.hpp"
-
 #include <corvane/workbench/model/internal/keys.hpp>
-
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
 
@@ -41,7 +39,7 @@ ElementNode* ElementTree::find(std::string_view key) const {
     return place.rest.empty() ? place.node : nullptr;
 }
 
-ElementNode* ElementTree::find(const corvane::utils::core::Uuid& uuid) const {
+ElementNode* ElementTree::find(const utils::core::Uuid& uuid) const {
     const auto found = byUuid_.find(uuid);
     return found == byUuid_.end() ? nullptr : found->second;
 }
@@ -50,7 +48,7 @@ std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
                                                    const skill::Element::Class& elementClass,
                                                    std::string name) {
     auto node = std::make_unique<ElementNode>(elementClass, elementClass.factory().createElement(),
-                                              std::move(name), corvane::utils::core::Uuid());
+                                              std::move(name), utils::core::Uuid());
     node->parent_ = &parent;
     claimNewUuid(*node);
     try {
@@ -63,7 +61,7 @@ std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
     return node;
 }
 
-bool ElementTree::claimUuid(ElementNode& node, const corvane::utils::core::Uuid& uuid) {
+bool ElementTree::claimUuid(ElementNode& node, const utils::core::Uuid& uuid) {
     if (!byUuid_.emplace(uuid, &node).second) {
         return false;
     }
@@ -72,7 +70,7 @@ bool ElementTree::claimUuid(ElementNode& node, const corvane::utils::core::Uuid&
 }
 
 void ElementTree::claimNewUuid(ElementNode& node) {
-    while (!claimUuid(node, corvane::utils::core::Uuid::generate())) {
+    while (!claimUuid(node, utils::core::Uuid::generate())) {
     }
 }
 

@@ -1,8 +1,5 @@
 #pragma once
 
-// The nodes of one tree, found by key and by UUID. Knows nothing of references but that whoever
-// points at an element that ends must be told.
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 
@@ -16,6 +13,8 @@
 
 namespace corvane::workbench::host {
 
+/// The nodes of one tree, found by key and by UUID. Knows nothing of references but that whoever
+/// points at an element that ends must be told.
 class ElementTree {
 public:
     /// What a key leads to: the deepest element on its way that exists, and the rest behind it,
@@ -41,7 +40,7 @@ public:
     [[nodiscard]] static Place findDeepestBelow(ElementNode& top, std::string_view suffix);
     /// The element of that key, or null.
     [[nodiscard]] ElementNode* find(std::string_view key) const;
-    [[nodiscard]] ElementNode* find(const corvane::utils::core::Uuid& uuid) const;
+    [[nodiscard]] ElementNode* find(const utils::core::Uuid& uuid) const;
 
     /// A node for a new element below the parent, not inserted yet: with the class's initial
     /// settings and a UUID. Throws what the skill throws.
@@ -49,7 +48,7 @@ public:
     makeNode(ElementNode& parent, const skill::Element::Class& elementClass, std::string name);
 
     /// Gives a node, in the tree or about to be, its UUID. False when another node has it.
-    [[nodiscard]] bool claimUuid(ElementNode& node, const corvane::utils::core::Uuid& uuid);
+    [[nodiscard]] bool claimUuid(ElementNode& node, const utils::core::Uuid& uuid);
     /// Gives a node a UUID of its own.
     void claimNewUuid(ElementNode& node);
     /// Takes the UUIDs of a node and of everything below it out of the table.
@@ -103,7 +102,7 @@ public:
     }
 
 private:
-    std::unordered_map<corvane::utils::core::Uuid, ElementNode*> byUuid_;
+    std::unordered_map<utils::core::Uuid, ElementNode*> byUuid_;
     std::function<void(ElementNode&)> membersPublished_;
     std::unique_ptr<ElementNode> root_;
 };

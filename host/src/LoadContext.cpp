@@ -8,7 +8,6 @@
 #include "reservedMembers.hpp"
 #include "resolutionMessage.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/string/transcode.hpp>
@@ -135,8 +134,7 @@ bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::pat
             request.resolved = !message;
             if (message) {
                 problems.push_back({file, request.location.line(), request.location.column(),
-                                    Problem::Severity::Error,
-                                    corvane::utils::string::toUtf8(*message)});
+                                    Problem::Severity::Error, utils::string::toUtf8(*message)});
             }
         }
         if (!progress.advance()) {

@@ -1,8 +1,5 @@
 #pragma once
 
-// Collects what skills ask to have resolved while a file is read, and resolves it when the whole
-// tree is known. One context serves one load.
-
 #include <corvane/utils/json/decoder/Location.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/workbench/config/Context.hpp>
@@ -19,6 +16,8 @@ namespace corvane::workbench::host {
 class ElementNode;
 class ElementTree;
 
+/// Collects what skills ask to have resolved while a file is read, and resolves it when the whole
+/// tree is known. One context serves one load.
 class LoadContext final : public config::Context {
 public:
     /// The requests of one element are made while its frame is the newest one.
@@ -32,8 +31,8 @@ public:
 
         /// Keeps the requests. Each is located at the string in the element's JSON object that
         /// holds its key, or at the element when the key stands nowhere as it is.
-        void keep(const corvane::utils::json::decoder::Value& object,
-                  const corvane::utils::json::decoder::Location& element);
+        void keep(const utils::json::decoder::Value& object,
+                  const utils::json::decoder::Location& element);
 
     private:
         friend class LoadContext;
@@ -60,7 +59,7 @@ private:
         model::internal::BasicElementReference* reference;
         bool isMember;
         ElementNode* owner;
-        corvane::utils::json::decoder::Location location;
+        utils::json::decoder::Location location;
         std::function<void()> completion;
         bool resolved = false;
     };

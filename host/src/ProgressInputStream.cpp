@@ -5,7 +5,7 @@
 
 namespace corvane::workbench::host {
 
-ProgressInputStream::ProgressInputStream(corvane::utils::io::InputStream<char>& source,
+ProgressInputStream::ProgressInputStream(utils::io::InputStream<char>& source,
                                          const std::function<bool(const LoadProgress&)>& callback,
                                          std::uint64_t total)
     : source_(source), report_(callback, LoadProgress::Stage::Reading, total),

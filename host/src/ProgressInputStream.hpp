@@ -1,9 +1,6 @@
 #pragma once
 
-// Passes a stream on and reports how much of it has been read.
-
 #include "ProgressReport.hpp"
-
 #include <corvane/utils/io/InputStream.hpp>
 
 #include <cstdint>
@@ -12,10 +9,11 @@
 
 namespace corvane::workbench::host {
 
-class ProgressInputStream final : public corvane::utils::io::InputStream<char> {
+/// Passes a stream on and reports how much of it has been read.
+class ProgressInputStream final : public utils::io::InputStream<char> {
 public:
     /// The total may be 0 for unknown. Source and callback must outlive the stream.
-    ProgressInputStream(corvane::utils::io::InputStream<char>& source,
+    ProgressInputStream(utils::io::InputStream<char>& source,
                         const std::function<bool(const LoadProgress&)>& callback,
                         std::uint64_t total);
     ~ProgressInputStream() override;
@@ -26,7 +24,7 @@ private:
     /// Throws std::runtime_error when the callback says to give up.
     bool refill() override;
 
-    corvane::utils::io::InputStream<char>& source_;
+    utils::io::InputStream<char>& source_;
     ProgressReport report_;
     std::vector<char> block_;
 };

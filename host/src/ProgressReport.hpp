@@ -1,7 +1,5 @@
 #pragma once
 
-// Reports the progress of one stage of a load, not more often than it matters.
-
 #include <corvane/workbench/host/LoadProgress.hpp>
 
 #include <algorithm>
@@ -10,12 +8,13 @@
 
 namespace corvane::workbench::host {
 
+/// Reports the progress of one stage of a load, not more often than it matters.
 class ProgressReport {
 public:
     /// Where the total is not known (0), every thousandth step is reported.
     ProgressReport(const std::function<bool(const LoadProgress&)>& callback,
                    LoadProgress::Stage stage, std::uint64_t total)
-        : callback_(callback), progress_{stage, 0, total},
+        : callback_(callback), progress_(stage, 0, total),
           step_(total == 0 ? 1000 : std::max<std::uint64_t>(total / 100, 1)) {
         goOn_ = report();
     }

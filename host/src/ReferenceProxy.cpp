@@ -1,7 +1,6 @@
 #include "ReferenceProxy.hpp"
 
 #include "ReferenceUpdates.hpp"
-
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/i18n/translate.hpp>
@@ -18,7 +17,7 @@ void ReferenceProxy::retire(std::string lastKey) noexcept {
 
 tl::expected<std::reference_wrapper<model::Element>, std::wstring> ReferenceProxy::element() const {
     if (node_ == nullptr) {
-        const std::wstring key = corvane::utils::string::toWide(lastKey_);
+        const std::wstring key = utils::string::toWide(lastKey_);
         return tl::unexpected(
             std::vformat(i18n::translate("corvane::workbench::host::ReferenceProxy",
                                          "the element “{}” does not exist"),
@@ -47,7 +46,7 @@ std::string ReferenceProxy::primaryKey() const {
     return node_ != nullptr ? node_->primaryKey() : lastKey_;
 }
 
-void ReferenceProxy::save(corvane::utils::json::encoder::Value& value, std::string_view suffix,
+void ReferenceProxy::save(utils::json::encoder::Value& value, std::string_view suffix,
                           std::optional<std::string_view> memberName) const {
     writeKey(value, primaryKey(), suffix, memberName);
 }

@@ -1,9 +1,5 @@
 #pragma once
 
-// What references to one element of the tree point at. It knows the element as long as that lives,
-// and every registered reference. References share its ownership; the element knows it without
-// owning it, so that it ends with the last reference.
-
 #include <corvane/workbench/model/internal/AbstractCrossReferenceProxy.hpp>
 
 #include <cstddef>
@@ -15,6 +11,9 @@ namespace corvane::workbench::host {
 class ElementNode;
 class ReferenceUpdates;
 
+/// What references to one element of the tree point at. It knows the element as long as that lives,
+/// and every registered reference. References share its ownership; the element knows it without
+/// owning it, so that it ends with the last reference.
 class ReferenceProxy final : public model::internal::AbstractCrossReferenceProxy {
 public:
     struct Registration : Attachment {
@@ -43,7 +42,7 @@ public:
     [[nodiscard]] Attachment* attach(model::internal::BasicElementReference& reference) override;
     void detach(Attachment* token) noexcept override;
     [[nodiscard]] std::string primaryKey() const override;
-    void save(corvane::utils::json::encoder::Value& value, std::string_view suffix,
+    void save(utils::json::encoder::Value& value, std::string_view suffix,
               std::optional<std::string_view> memberName) const override;
 
 private:

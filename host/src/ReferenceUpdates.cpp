@@ -1,7 +1,6 @@
 #include "ReferenceUpdates.hpp"
 
 #include "resolutionMessage.hpp"
-
 #include <corvane/workbench/host/Observer.hpp>
 #include <corvane/workbench/model/Element.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>

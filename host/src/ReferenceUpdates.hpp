@@ -1,9 +1,5 @@
 #pragma once
 
-// The references that one edit concerns: collected before the edit, redirected by it, and told
-// about it afterwards, each at most once and only of what changed. A reference that ends meanwhile,
-// or that somebody else points elsewhere, drops out.
-
 #include "ReferenceProxy.hpp"
 
 #include <cstddef>
@@ -23,6 +19,9 @@ namespace corvane::workbench::host {
 
 class Observer;
 
+/// The references that one edit concerns: collected before the edit, redirected by it, and told
+/// about it afterwards, each at most once and only of what changed. A reference that ends
+/// meanwhile, or that somebody else points elsewhere, drops out.
 class ReferenceUpdates {
 public:
     enum class Key { Stays, Changes };

@@ -1,7 +1,5 @@
 #pragma once
 
-// A shared library of the operating system, loaded as long as the object lives.
-
 #include <tl/expected.hpp>
 
 #include <filesystem>
@@ -9,6 +7,7 @@
 
 namespace corvane::workbench::host {
 
+/// A shared library of the operating system, loaded as long as the object lives.
 class SharedLibrary {
 public:
     /// Loads the library; fails with the operating system's reason (UTF-8).

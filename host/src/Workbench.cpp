@@ -7,7 +7,6 @@
 #include "text.hpp"
 #include "treeRules.hpp"
 #include "writeConfiguration.hpp"
-
 #include <corvane/utils/io/FileInputStream.hpp>
 #include <corvane/utils/io/FileOutputStream.hpp>
 #include <corvane/workbench/host/SkillLibrary.hpp>
@@ -107,7 +106,7 @@ LoadResult Workbench::loadConfiguration(const std::filesystem::path& file,
         return {false, {refuseNested().value()}};
     }
     try {
-        corvane::utils::io::FileInputStream stream(file);
+        utils::io::FileInputStream stream(file);
         if (!options.progress) {
             return loadConfiguration(stream, file, options);
         }
@@ -120,7 +119,7 @@ LoadResult Workbench::loadConfiguration(const std::filesystem::path& file,
     }
 }
 
-LoadResult Workbench::loadConfiguration(corvane::utils::io::InputStream<char>& stream,
+LoadResult Workbench::loadConfiguration(utils::io::InputStream<char>& stream,
                                         const std::filesystem::path& file,
                                         const LoadOptions& options) {
     if (state_->editing()) {
@@ -131,7 +130,7 @@ LoadResult Workbench::loadConfiguration(corvane::utils::io::InputStream<char>& s
 
 Result<void> Workbench::saveConfiguration(const std::filesystem::path& file) const {
     try {
-        corvane::utils::io::FileOutputStream stream(file);
+        utils::io::FileOutputStream stream(file);
         writeConfiguration(state_->tree.root(), stream);
         stream.close();
         return {};
@@ -140,7 +139,7 @@ Result<void> Workbench::saveConfiguration(const std::filesystem::path& file) con
     }
 }
 
-Result<void> Workbench::saveConfiguration(corvane::utils::io::OutputStream<char>& stream) const {
+Result<void> Workbench::saveConfiguration(utils::io::OutputStream<char>& stream) const {
     try {
         writeConfiguration(state_->tree.root(), stream);
         return {};
@@ -160,7 +159,7 @@ ElementNode* Workbench::findElement(std::string_view key) const {
     return state_->tree.find(key);
 }
 
-ElementNode* Workbench::findElement(const corvane::utils::core::Uuid& uuid) const {
+ElementNode* Workbench::findElement(const utils::core::Uuid& uuid) const {
     return state_->tree.find(uuid);
 }
 
@@ -170,7 +169,7 @@ std::size_t Workbench::elementCount() const noexcept {
 
 void Workbench::forEachPropertyProblem(
     const ElementNode& top,
-    corvane::utils::core::function_ref<void(const PropertyProblem&)> callback) const {
+    utils::core::function_ref<void(const PropertyProblem&)> callback) const {
     host::forEachPropertyProblem(top, callback);
 }
 

@@ -5,7 +5,6 @@
 #include "ProgressReport.hpp"
 #include "text.hpp"
 #include "treeRules.hpp"
-
 #include <corvane/utils/json/decoder/Document.hpp>
 #include <corvane/workbench/host/Observer.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
@@ -78,7 +77,7 @@ Result<void> Workbench::State::addSkills(
     }
 }
 
-LoadResult Workbench::State::load(corvane::utils::io::InputStream<char>& stream,
+LoadResult Workbench::State::load(utils::io::InputStream<char>& stream,
                                   const std::filesystem::path& file, const LoadOptions& options) {
     LoadResult result;
     // References that reach for missing top-level elements register with the root that stays.
@@ -97,9 +96,9 @@ LoadResult Workbench::State::load(corvane::utils::io::InputStream<char>& stream,
     return result;
 }
 
-bool Workbench::State::read(corvane::utils::io::InputStream<char>& stream,
-                            const std::filesystem::path& file, const LoadOptions& options,
-                            ElementTree& staging, std::vector<Problem>& problems) {
+bool Workbench::State::read(utils::io::InputStream<char>& stream, const std::filesystem::path& file,
+                            const LoadOptions& options, ElementTree& staging,
+                            std::vector<Problem>& problems) {
     const auto giveUp = [&](const std::string& text) {
         problems.push_back({file, 0, 0, Problem::Severity::Error, text});
         return false;
@@ -107,7 +106,7 @@ bool Workbench::State::read(corvane::utils::io::InputStream<char>& stream,
     try {
         LoadContext context(options);
         {
-            corvane::utils::json::decoder::Document document(stream);
+            utils::json::decoder::Document document(stream);
             document.finish();
             ConfigurationReader reader(classes, options, file, staging, context, problems);
             if (!reader.read(document.root())) {

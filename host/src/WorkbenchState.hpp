@@ -1,11 +1,8 @@
 #pragma once
 
-// What a workbench is made of, and the steps that its operations share.
-
 #include "ElementTree.hpp"
 #include "ReferenceProxy.hpp"
 #include "ReferenceUpdates.hpp"
-
 #include <corvane/utils/io/InputStream.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 
@@ -21,6 +18,7 @@
 
 namespace corvane::workbench::host {
 
+/// What a workbench is made of, and the steps that its operations share.
 class Workbench::State {
 public:
     /// One change of the tree: refuses further ones until everybody has heard of it, and collects
@@ -80,8 +78,8 @@ public:
 
     Result<void> addSkills(std::span<const std::reference_wrapper<const skill::Skill::Class>> added,
                            const std::filesystem::path& library);
-    LoadResult load(corvane::utils::io::InputStream<char>& stream,
-                    const std::filesystem::path& file, const LoadOptions& options);
+    LoadResult load(utils::io::InputStream<char>& stream, const std::filesystem::path& file,
+                    const LoadOptions& options);
 
     /// Takes in all references at a node and below.
     void collectBelow(ElementNode& top, ReferenceUpdates::Key key, ReferenceUpdates& updates);
@@ -102,9 +100,9 @@ public:
     ElementTree tree;
 
 private:
-    [[nodiscard]] bool read(corvane::utils::io::InputStream<char>& stream,
-                            const std::filesystem::path& file, const LoadOptions& options,
-                            ElementTree& staging, std::vector<Problem>& problems);
+    [[nodiscard]] bool read(utils::io::InputStream<char>& stream, const std::filesystem::path& file,
+                            const LoadOptions& options, ElementTree& staging,
+                            std::vector<Problem>& problems);
     void replaceTree(ElementTree& staging);
 
     bool editing_ = false;

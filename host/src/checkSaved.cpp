@@ -2,7 +2,6 @@
 
 #include "reservedMembers.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Document.hpp>
@@ -71,7 +70,7 @@ void checkChildren(const ElementNode& parent, const decoder::Value& children) {
 } // namespace
 
 void checkSaved(const ElementNode& root, std::string_view text) {
-    corvane::utils::io::MemoryInputStream<char> stream(text);
+    utils::io::MemoryInputStream<char> stream(text);
     try {
         decoder::Document document(stream);
         auto object = document.root().asObject();

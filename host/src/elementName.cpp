@@ -1,7 +1,6 @@
 #include <corvane/workbench/host/elementName.hpp>
 
 #include "text.hpp"
-
 #include <corvane/utils/string/transcode.hpp>
 
 namespace corvane::workbench::host {
@@ -11,7 +10,7 @@ tl::expected<void, std::string> checkElementName(std::string_view name) {
         return tl::unexpected("an element name must not be empty");
     }
     // What is malformed does not survive the way to UTF-16 and back.
-    if (corvane::utils::string::toUtf8(corvane::utils::string::toWide(name)) != name) {
+    if (utils::string::toUtf8(utils::string::toWide(name)) != name) {
         return tl::unexpected("the element name " + inQuotes(name) + " is not valid UTF-8");
     }
     if (!name.starts_with('[')) {

@@ -13,7 +13,7 @@ namespace {
 
 class PropertyProblemWalk {
 public:
-    using Callback = corvane::utils::core::function_ref<void(const PropertyProblem&)>;
+    using Callback = utils::core::function_ref<void(const PropertyProblem&)>;
 
     PropertyProblemWalk(const ElementNode& element, Callback callback)
         : element_(element), callback_(callback) {}
@@ -52,9 +52,8 @@ private:
 
 } // namespace
 
-void forEachPropertyProblem(
-    const ElementNode& top,
-    corvane::utils::core::function_ref<void(const PropertyProblem&)> callback) {
+void forEachPropertyProblem(const ElementNode& top,
+                            utils::core::function_ref<void(const PropertyProblem&)> callback) {
     // The counts say where there is nothing to be found.
     if (top.properties().propertyErrorCount() == 0) {
         return;

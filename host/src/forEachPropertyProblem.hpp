@@ -9,8 +9,7 @@ namespace corvane::workbench::host {
 
 /// Calls the callback with each invalid visible property at or below the element, in the order of
 /// the tree. Configures the elements.
-void forEachPropertyProblem(
-    const ElementNode& top,
-    corvane::utils::core::function_ref<void(const PropertyProblem&)> callback);
+void forEachPropertyProblem(const ElementNode& top,
+                            utils::core::function_ref<void(const PropertyProblem&)> callback);
 
 } // namespace corvane::workbench::host

@@ -2,7 +2,6 @@
 
 #include "ElementTree.hpp"
 #include "ReferenceProxy.hpp"
-
 #include <corvane/workbench/model/internal/keys.hpp>
 
 #include <optional>

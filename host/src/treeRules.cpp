@@ -1,7 +1,6 @@
 #include "treeRules.hpp"
 
 #include "text.hpp"
-
 #include <corvane/workbench/host/ElementNode.hpp>
 
 #include <utility>

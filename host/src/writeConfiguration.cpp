@@ -2,7 +2,6 @@
 
 #include "checkSaved.hpp"
 #include "reservedMembers.hpp"
-
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
@@ -45,7 +44,7 @@ void writeChildren(const ElementNode& parent, encoder::Object& object) {
 
 } // namespace
 
-void writeConfiguration(const ElementNode& root, corvane::utils::io::OutputStream<char>& stream) {
+void writeConfiguration(const ElementNode& root, utils::io::OutputStream<char>& stream) {
     json::internal::StringOutputStream collected;
     encoder::Document document(collected, encoder::Document::Format::Indented);
     encoder::Object object = document.root().writeObject();

@@ -11,6 +11,6 @@ class ElementNode;
 /// Writes indented JSON and flushes the stream. What the stream and the skills throw comes out.
 /// Writes nothing of a configuration that could not be loaded again.
 /// @throws std::runtime_error with the reason.
-void writeConfiguration(const ElementNode& root, corvane::utils::io::OutputStream<char>& stream);
+void writeConfiguration(const ElementNode& root, utils::io::OutputStream<char>& stream);
 
 } // namespace corvane::workbench::host

@@ -1,6 +1,5 @@
-#include <corvane/workbench/bindings/functional.hpp>
-
 #include "EditedText.hpp"
+#include <corvane/workbench/bindings/functional.hpp>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,5 +1,3 @@
-// The text of a box together with the two ends of its selection, edited so that both ends stay on
-// the characters they stood on. Borrows all three; lives for one call of a text adjuster.
 #pragma once
 
 #include <algorithm>
@@ -19,6 +17,8 @@ namespace corvane::workbench::bindings::functional::internal {
     return set.find(character) != std::wstring_view::npos;
 }
 
+/// The text of a box together with the two ends of its selection, edited so that both ends stay on
+/// the characters they stood on. Borrows all three; lives for one call of a text adjuster.
 class EditedText {
 public:
     EditedText(std::wstring& text, std::uint64_t& selectionStart,

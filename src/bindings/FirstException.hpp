@@ -1,4 +1,3 @@
-// Goes on after an exception where the books must be brought in order, and reports it afterwards.
 #pragma once
 
 #include <exception>
@@ -6,6 +5,7 @@
 
 namespace corvane::workbench::bindings::internal {
 
+/// Goes on after an exception where the books must be brought in order, and reports it afterwards.
 class FirstException {
 public:
     /// Runs a step and keeps its exception unless one is kept already. Returns whether the step

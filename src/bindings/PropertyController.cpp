@@ -1,10 +1,9 @@
 #include <corvane/workbench/bindings/PropertyController.hpp>
 
+#include "FirstException.hpp"
 #include <corvane/workbench/bindings/CrossReferenceController.hpp>
 #include <corvane/workbench/bindings/PropertyData.hpp>
 #include <corvane/workbench/bindings/PropertyHandle.hpp>
-
-#include "FirstException.hpp"
 
 namespace corvane::workbench::bindings {
 

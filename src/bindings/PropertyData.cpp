@@ -23,7 +23,7 @@ bool sameState(const PropertyController::PropertyState& a,
 /// Sets publishing flags for its lifetime.
 class PropertyController::PropertyData::Publishing {
 public:
-    Publishing(std::uint32_t& flags, std::uint32_t mask) noexcept : flags_{flags}, before_{flags} {
+    Publishing(std::uint32_t& flags, std::uint32_t mask) noexcept : flags_(flags), before_(flags) {
         flags_ |= mask;
     }
     Publishing(const Publishing&) = delete;

@@ -1,8 +1,9 @@
+#include <corvane/workbench/config/Context.hpp>
+
 #include <corvane/utils/json/decoder/Location.hpp>
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/utils/json/decoder/String.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
-#include <corvane/workbench/config/Context.hpp>
 #include <corvane/workbench/model/AttributeReference.hpp>
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/process/EventReference.hpp>
@@ -36,14 +37,12 @@ void Context::resolveMember(ReferenceKey&& key, model::internal::BasicElementRef
     resolveMemberReference(std::move(key), reference, {});
 }
 
-Context::ReferenceKey::ReferenceKey(corvane::utils::json::decoder::Value& value) {
+Context::ReferenceKey::ReferenceKey(utils::json::decoder::Value& value) {
     auto string = value.asString();
     text_.assign(string.begin(), string.end());
 }
-Context::ReferenceKey::ReferenceKey(const corvane::utils::json::decoder::Name& name)
-    : text_(name.text()) {}
-Context::ReferenceKey::ReferenceKey(std::string&& text,
-                                    const corvane::utils::json::decoder::Location&)
+Context::ReferenceKey::ReferenceKey(const utils::json::decoder::Name& name) : text_(name.text()) {}
+Context::ReferenceKey::ReferenceKey(std::string&& text, const utils::json::decoder::Location&)
     : text_(std::move(text)) {}
 Context::ReferenceKey::ReferenceKey(std::string_view text, WithoutLocationTag) : text_(text) {}
 

@@ -1,6 +1,5 @@
-#include <corvane/workbench/i18n/SortOrdering.hpp>
-
 #include "comparedLength.hpp"
+#include <corvane/workbench/i18n/SortOrdering.hpp>
 
 #include <unicode/ucol.h>
 #include <unicode/uloc.h>

@@ -88,9 +88,9 @@ std::wstring jsonErrorMessage(const std::exception& error) {
     const std::string_view message = error.what();
     const std::optional<LocatedError> located = findLocation(message);
     if (!located || located->line == 0) {
-        return corvane::utils::string::toWide(message);
+        return utils::string::toWide(message);
     }
-    const std::wstring text = corvane::utils::string::toWide(located->text);
+    const std::wstring text = utils::string::toWide(located->text);
     return std::vformat(translate("workbench::json", "Error on line {}: {}"),
                         std::make_wformat_args(located->line, text));
 }

@@ -10,7 +10,7 @@ namespace {
 
 template <class Sink>
 void decode(std::string_view text, Sink& sink) {
-    corvane::utils::string::detail::Utf8Decoder decoder;
+    utils::string::detail::Utf8Decoder decoder;
     for (const char byte : text) {
         decoder.feed(byte, sink);
     }
@@ -20,12 +20,12 @@ void decode(std::string_view text, Sink& sink) {
 } // namespace
 
 std::wstring translate(std::string_view, std::string_view text) {
-    corvane::utils::string::detail::Utf16CodeUnitCounter counter;
+    utils::string::detail::Utf16CodeUnitCounter counter;
     decode(text, counter);
 
     std::wstring result;
     result.reserve(counter.count());
-    corvane::utils::string::detail::Utf16Encoder encoder;
+    utils::string::detail::Utf16Encoder encoder;
     const auto append = [&](char32_t character) {
         encoder.encode(character, [&](wchar_t codeUnit) { result.push_back(codeUnit); });
     };

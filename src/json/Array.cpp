@@ -1,7 +1,6 @@
 #include <corvane/workbench/json/Array.hpp>
 
 #include "internal/text.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>

@@ -2,7 +2,6 @@
 
 #include "internal/text.hpp"
 #include "internal/throwAt.hpp"
-
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>

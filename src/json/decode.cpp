@@ -2,7 +2,6 @@
 // sees it as a whole.
 #include "internal/MemberIndex.hpp"
 #include "internal/throwAt.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>

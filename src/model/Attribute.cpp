@@ -6,7 +6,7 @@ namespace corvane::workbench::model {
 
 namespace {
 
-using Directions = corvane::utils::core::Flags<io::Direction>;
+using Directions = utils::core::Flags<io::Direction>;
 
 constexpr auto kUndefined = Attribute::Access::Undefined;
 

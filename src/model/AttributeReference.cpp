@@ -1,7 +1,8 @@
+#include <corvane/workbench/model/AttributeReference.hpp>
+
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
-#include <corvane/workbench/model/AttributeReference.hpp>
 
 #include <utility>
 
@@ -46,14 +47,13 @@ std::string AttributeReference::primaryKey() const {
     return data().primaryKey();
 }
 
-void AttributeReference::save(corvane::utils::json::encoder::Value& value) const {
+void AttributeReference::save(utils::json::encoder::Value& value) const {
     data().save(value);
 }
-void AttributeReference::saveTo(corvane::utils::json::encoder::Array& array) const {
+void AttributeReference::saveTo(utils::json::encoder::Array& array) const {
     data().saveTo(array);
 }
-void AttributeReference::saveTo(corvane::utils::json::encoder::Object& object,
-                                std::string_view name) const {
+void AttributeReference::saveTo(utils::json::encoder::Object& object, std::string_view name) const {
     data().saveTo(object, name);
 }
 
@@ -81,14 +81,13 @@ AttributeReference::ImportReference::operator bool() const noexcept {
     return !data_.empty();
 }
 
-void AttributeReference::ImportReference::save(corvane::utils::json::encoder::Value& value) const {
+void AttributeReference::ImportReference::save(utils::json::encoder::Value& value) const {
     data_.save(value);
 }
-void AttributeReference::ImportReference::saveTo(
-    corvane::utils::json::encoder::Array& array) const {
+void AttributeReference::ImportReference::saveTo(utils::json::encoder::Array& array) const {
     data_.saveTo(array);
 }
-void AttributeReference::ImportReference::saveTo(corvane::utils::json::encoder::Object& object,
+void AttributeReference::ImportReference::saveTo(utils::json::encoder::Object& object,
                                                  std::string_view name) const {
     data_.saveTo(object, name);
 }

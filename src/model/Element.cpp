@@ -13,17 +13,17 @@ namespace corvane::workbench::model {
 
 namespace {
 
-using corvane::utils::core::function_ref;
+using utils::core::function_ref;
 
-constexpr corvane::utils::core::Flags<io::Direction> kBothDirections = {io::Direction::Read,
-                                                                        io::Direction::Write};
+constexpr utils::core::Flags<io::Direction> kBothDirections = {io::Direction::Read,
+                                                               io::Direction::Write};
 
 // `format` has a place for the element's key and one for the member's name.
 std::wstring missingMember(const Element& element, std::string_view format,
                            std::string_view memberName) {
     const std::wstring translated = i18n::translate("corvane::workbench::model::Element", format);
-    const std::wstring key = corvane::utils::string::toWide(element.primaryKey());
-    const std::wstring name = corvane::utils::string::toWide(memberName);
+    const std::wstring key = utils::string::toWide(element.primaryKey());
+    const std::wstring name = utils::string::toWide(memberName);
     return std::vformat(translated, std::make_wformat_args(key, name));
 }
 
@@ -31,7 +31,7 @@ std::wstring missingMember(const Element& element, std::string_view format,
 
 Element::~Element() = default;
 
-corvane::utils::string::BasicStringView<char> Element::name() const {
+utils::string::BasicStringView<char> Element::name() const {
     return nameImpl();
 }
 
@@ -39,7 +39,7 @@ std::string Element::primaryKey() const {
     return primaryKeyImpl();
 }
 
-corvane::utils::core::Uuid Element::uuid() const {
+utils::core::Uuid Element::uuid() const {
     return uuidImpl();
 }
 
@@ -51,7 +51,7 @@ ElementCategory Element::category() const {
     return categoryImpl();
 }
 
-bool Element::checkCategory(corvane::utils::core::Flags<ElementCategory> categories) const {
+bool Element::checkCategory(utils::core::Flags<ElementCategory> categories) const {
     const ElementCategory own = category();
     return own == ElementCategory::CustomElement || categories.test(own);
 }

@@ -1,7 +1,8 @@
+#include <corvane/workbench/model/ElementReference.hpp>
+
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
-#include <corvane/workbench/model/ElementReference.hpp>
 
 #include <utility>
 
@@ -46,14 +47,13 @@ std::string ElementReference::primaryKey() const {
     return data().primaryKey();
 }
 
-void ElementReference::save(corvane::utils::json::encoder::Value& value) const {
+void ElementReference::save(utils::json::encoder::Value& value) const {
     data().save(value);
 }
-void ElementReference::saveTo(corvane::utils::json::encoder::Array& array) const {
+void ElementReference::saveTo(utils::json::encoder::Array& array) const {
     data().saveTo(array);
 }
-void ElementReference::saveTo(corvane::utils::json::encoder::Object& object,
-                              std::string_view name) const {
+void ElementReference::saveTo(utils::json::encoder::Object& object, std::string_view name) const {
     data().saveTo(object, name);
 }
 
@@ -79,13 +79,13 @@ ElementReference::ImportReference::operator bool() const noexcept {
     return !data_.empty();
 }
 
-void ElementReference::ImportReference::save(corvane::utils::json::encoder::Value& value) const {
+void ElementReference::ImportReference::save(utils::json::encoder::Value& value) const {
     data_.save(value);
 }
-void ElementReference::ImportReference::saveTo(corvane::utils::json::encoder::Array& array) const {
+void ElementReference::ImportReference::saveTo(utils::json::encoder::Array& array) const {
     data_.saveTo(array);
 }
-void ElementReference::ImportReference::saveTo(corvane::utils::json::encoder::Object& object,
+void ElementReference::ImportReference::saveTo(utils::json::encoder::Object& object,
                                                std::string_view name) const {
     data_.saveTo(object, name);
 }

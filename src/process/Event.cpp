@@ -8,7 +8,7 @@ const Event Event::kChanged("changed", io::Direction::Read);
 const Event Event::kConnected("connected", {});
 const Event Event::kDisconnected("disconnected", {});
 
-Event::Event(std::string&& name, corvane::utils::core::Flags<io::Direction> ioDirections) noexcept
+Event::Event(std::string&& name, utils::core::Flags<io::Direction> ioDirections) noexcept
     : name_(std::move(name)), ioDirections_(ioDirections) {}
 
 Event::Event(const Event& other) = default;
@@ -25,7 +25,7 @@ std::string&& Event::name() && noexcept {
     return std::move(name_);
 }
 
-corvane::utils::core::Flags<io::Direction> Event::ioDirections() const noexcept {
+utils::core::Flags<io::Direction> Event::ioDirections() const noexcept {
     return ioDirections_;
 }
 

@@ -1,7 +1,8 @@
+#include <corvane/workbench/process/EventReference.hpp>
+
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
-#include <corvane/workbench/process/EventReference.hpp>
 
 #include <utility>
 
@@ -54,14 +55,13 @@ std::string EventReference::primaryKey() const {
     return data().primaryKey();
 }
 
-void EventReference::save(corvane::utils::json::encoder::Value& value) const {
+void EventReference::save(utils::json::encoder::Value& value) const {
     data().save(value);
 }
-void EventReference::saveTo(corvane::utils::json::encoder::Array& array) const {
+void EventReference::saveTo(utils::json::encoder::Array& array) const {
     data().saveTo(array);
 }
-void EventReference::saveTo(corvane::utils::json::encoder::Object& object,
-                            std::string_view name) const {
+void EventReference::saveTo(utils::json::encoder::Object& object, std::string_view name) const {
     data().saveTo(object, name);
 }
 
@@ -90,13 +90,13 @@ EventReference::ImportReference::operator bool() const noexcept {
     return !data_.empty();
 }
 
-void EventReference::ImportReference::save(corvane::utils::json::encoder::Value& value) const {
+void EventReference::ImportReference::save(utils::json::encoder::Value& value) const {
     data_.save(value);
 }
-void EventReference::ImportReference::saveTo(corvane::utils::json::encoder::Array& array) const {
+void EventReference::ImportReference::saveTo(utils::json::encoder::Array& array) const {
     data_.saveTo(array);
 }
-void EventReference::ImportReference::saveTo(corvane::utils::json::encoder::Object& object,
+void EventReference::ImportReference::saveTo(utils::json::encoder::Object& object,
                                              std::string_view name) const {
     data_.saveTo(object, name);
 }

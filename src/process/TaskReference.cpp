@@ -1,7 +1,8 @@
+#include <corvane/workbench/process/TaskReference.hpp>
+
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
-#include <corvane/workbench/process/TaskReference.hpp>
 
 #include <utility>
 
@@ -46,14 +47,13 @@ std::string TaskReference::primaryKey() const {
     return data().primaryKey();
 }
 
-void TaskReference::save(corvane::utils::json::encoder::Value& value) const {
+void TaskReference::save(utils::json::encoder::Value& value) const {
     data().save(value);
 }
-void TaskReference::saveTo(corvane::utils::json::encoder::Array& array) const {
+void TaskReference::saveTo(utils::json::encoder::Array& array) const {
     data().saveTo(array);
 }
-void TaskReference::saveTo(corvane::utils::json::encoder::Object& object,
-                           std::string_view name) const {
+void TaskReference::saveTo(utils::json::encoder::Object& object, std::string_view name) const {
     data().saveTo(object, name);
 }
 
@@ -82,13 +82,13 @@ TaskReference::ImportReference::operator bool() const noexcept {
     return !data_.empty();
 }
 
-void TaskReference::ImportReference::save(corvane::utils::json::encoder::Value& value) const {
+void TaskReference::ImportReference::save(utils::json::encoder::Value& value) const {
     data_.save(value);
 }
-void TaskReference::ImportReference::saveTo(corvane::utils::json::encoder::Array& array) const {
+void TaskReference::ImportReference::saveTo(utils::json::encoder::Array& array) const {
     data_.saveTo(array);
 }
-void TaskReference::ImportReference::saveTo(corvane::utils::json::encoder::Object& object,
+void TaskReference::ImportReference::saveTo(utils::json::encoder::Object& object,
                                             std::string_view name) const {
     data_.saveTo(object, name);
 }

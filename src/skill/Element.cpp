@@ -1,9 +1,10 @@
+#include <corvane/workbench/skill/Element.hpp>
+
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>
 #include <corvane/workbench/model/ChildElementAccessor.hpp>
 #include <corvane/workbench/model/Element.hpp>
-#include <corvane/workbench/skill/Element.hpp>
 #include <corvane/workbench/skill/internal/AbstractElementSupervisor.hpp>
 
 namespace corvane::workbench::skill {
@@ -19,10 +20,10 @@ const Element::Class& Element::elementClass() const {
     return supervisor_->elementClass();
 }
 
-corvane::utils::string::BasicStringView<char> Element::name() const {
+utils::string::BasicStringView<char> Element::name() const {
     return element().name();
 }
-corvane::utils::core::Uuid Element::uuid() const {
+utils::core::Uuid Element::uuid() const {
     return element().uuid();
 }
 std::string Element::primaryKey() const {
@@ -42,29 +43,27 @@ void Element::publishElementMembers() const {
     supervisor_->publishElementMembers();
 }
 
-void Element::load(corvane::utils::json::decoder::Object& object, config::Context&) {
+void Element::load(utils::json::decoder::Object& object, config::Context&) {
     for (auto&& member : object) {
         config::throwUnknownParameterError(member.name);
     }
 }
 
-void Element::save(corvane::utils::json::encoder::Object&) const {}
+void Element::save(utils::json::encoder::Object&) const {}
 void Element::makeDefault() {}
 
 bool Element::forEachAttribute(
-    const corvane::utils::core::function_ref<bool(const model::Attribute&)>&) const {
+    const utils::core::function_ref<bool(const model::Attribute&)>&) const {
     return false;
 }
-bool Element::forEachEvent(
-    const corvane::utils::core::function_ref<bool(const process::Event&)>&) const {
+bool Element::forEachEvent(const utils::core::function_ref<bool(const process::Event&)>&) const {
     return false;
 }
-bool Element::forEachTask(
-    const corvane::utils::core::function_ref<bool(const process::Task&)>&) const {
+bool Element::forEachTask(const utils::core::function_ref<bool(const process::Task&)>&) const {
     return false;
 }
 
-std::optional<corvane::utils::core::Uuid> Element::importId() {
+std::optional<utils::core::Uuid> Element::importId() {
     return std::nullopt;
 }
 void Element::importMerge(const model::Element&) {}

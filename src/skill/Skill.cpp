@@ -4,8 +4,7 @@ namespace corvane::workbench::skill {
 
 // Skill classes in other libraries register during static initialisation, before or after this
 // library's own; the list therefore has no initialiser that runs.
-constinit corvane::utils::memory::SafeGlobal<
-    std::forward_list<std::reference_wrapper<Skill::Class>>>
+constinit utils::memory::SafeGlobal<std::forward_list<std::reference_wrapper<Skill::Class>>>
     Skill::Class::_allSkills;
 
 Skill::Skill() = default;

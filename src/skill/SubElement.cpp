@@ -1,5 +1,6 @@
-#include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
+
+#include <corvane/workbench/bindings/Action.hpp>
 
 namespace corvane::workbench::skill {
 

@@ -1,9 +1,8 @@
 // Memory that runs out at any moment leaves flags, counts and tables right, and a publication needs
 // none. A program of its own, because it replaces the allocator.
+#include "TestController.hpp"
 #include <corvane/workbench/bindings/PropertyController.hpp>
 #include <corvane/workbench/bindings/PropertyKey.hpp>
-
-#include "TestController.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
-#include <corvane/workbench/bindings/PropertyContainer.hpp>
-
 #include "TestContainer.hpp"
 #include "Trace.hpp"
+#include <corvane/workbench/bindings/PropertyContainer.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,9 @@
 // An exception from a callback at any position leaves flags, counts and tables right: the next
 // publication behaves as if the failed one had just ended.
-#include <corvane/workbench/bindings/PropertyController.hpp>
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-
 #include "TestController.hpp"
 #include "Trace.hpp"
+#include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/bindings/PropertyKey.hpp>
 
 #include <gtest/gtest.h>
 

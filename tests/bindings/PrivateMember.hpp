@@ -1,8 +1,3 @@
-// Reveals private members to tests of fixed orders: an explicit instantiation may name them.
-//
-//     struct Id { friend constexpr auto reveal(Id); };
-//     template struct PrivateMember<Id, &Subscription::id_>;
-//     ... subscription.*reveal(Id{}) ...
 #pragma once
 
 #include <cstddef>
@@ -10,6 +5,11 @@
 
 namespace corvane::workbench::bindings::test {
 
+/// Reveals private members to tests of fixed orders: an explicit instantiation may name them.
+///
+///     struct Id { friend constexpr auto reveal(Id); };
+///     template struct PrivateMember<Id, &Subscription::id_>;
+///     ... subscription.*reveal(Id{}) ...
 template <class Tag, auto Member>
 struct PrivateMember {
     friend constexpr auto reveal(Tag) { return Member; }

@@ -111,8 +111,8 @@ TEST(PropertyChangedCallback, IsCopiedAndMovedAsWhatItHolds) {
 
 TEST(PropertyChangedCallback, KeepsWhatItHoldsWhenACopyThrows) {
     struct Uncopyable {
-        explicit Uncopyable(Trace& trace) : trace_{&trace} {}
-        Uncopyable(const Uncopyable& other) : trace_{other.trace_}, copies_{other.copies_ + 1} {
+        explicit Uncopyable(Trace& trace) : trace_(&trace) {}
+        Uncopyable(const Uncopyable& other) : trace_(other.trace_), copies_(other.copies_ + 1) {
             if (copies_ > 1) {
                 throw std::runtime_error("copied");
             }

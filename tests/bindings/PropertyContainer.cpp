@@ -1,11 +1,10 @@
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 
-#include <corvane/workbench/bindings/CrossReferenceController.hpp>
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-
 #include "PrivateMember.hpp"
 #include "TestContainer.hpp"
 #include "Trace.hpp"
+#include <corvane/workbench/bindings/CrossReferenceController.hpp>
+#include <corvane/workbench/bindings/PropertyKey.hpp>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

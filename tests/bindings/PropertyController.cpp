@@ -1,14 +1,13 @@
 #include <corvane/workbench/bindings/PropertyController.hpp>
 
-#include <corvane/workbench/bindings/CrossReferenceController.hpp>
-#include <corvane/workbench/bindings/PropertyData.hpp>
-#include <corvane/workbench/bindings/PropertyHandle.hpp>
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-
 #include "PrivateMember.hpp"
 #include "TestContainer.hpp"
 #include "TestController.hpp"
 #include "Trace.hpp"
+#include <corvane/workbench/bindings/CrossReferenceController.hpp>
+#include <corvane/workbench/bindings/PropertyData.hpp>
+#include <corvane/workbench/bindings/PropertyHandle.hpp>
+#include <corvane/workbench/bindings/PropertyKey.hpp>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

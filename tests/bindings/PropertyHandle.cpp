@@ -1,10 +1,9 @@
 #include <corvane/workbench/bindings/PropertyHandle.hpp>
 
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-
 #include "PrivateMember.hpp"
 #include "TestController.hpp"
 #include "Trace.hpp"
+#include <corvane/workbench/bindings/PropertyKey.hpp>
 
 #include <gtest/gtest.h>
 

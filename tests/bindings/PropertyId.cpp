@@ -1,8 +1,7 @@
 #include <corvane/workbench/bindings/PropertyId.hpp>
 
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-
 #include "TestController.hpp"
+#include <corvane/workbench/bindings/PropertyKey.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,9 @@
 // What a callback may do while it runs: every kind of callback with every action. The expectations
 // stand in the documentation's table, which this test reads.
-#include <corvane/workbench/bindings/PropertyController.hpp>
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-
 #include "TestController.hpp"
 #include "Trace.hpp"
+#include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/bindings/PropertyKey.hpp>
 
 #include <gtest/gtest.h>
 

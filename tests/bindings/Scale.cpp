@@ -1,8 +1,7 @@
 // Many properties, many subscribers, deep trees and long lists.
+#include "TestController.hpp"
 #include <corvane/workbench/bindings/PropertyController.hpp>
 #include <corvane/workbench/bindings/PropertyKey.hpp>
-
-#include "TestController.hpp"
 
 #include <gtest/gtest.h>
 
@@ -68,7 +67,7 @@ public:
 private:
     class List : public PropertyContainer {
     public:
-        explicit List(Node& node) : node_{node} {}
+        explicit List(Node& node) : node_(node) {}
 
     private:
         void forEachSubPropertyContainer(

@@ -1,12 +1,10 @@
 // The handle that owns a subscription to a property.
-#include <corvane/workbench/bindings/PropertyController.hpp>
-
-#include <corvane/workbench/bindings/PropertyData.hpp>
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-
 #include "PrivateMember.hpp"
 #include "TestController.hpp"
 #include "Trace.hpp"
+#include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/bindings/PropertyData.hpp>
+#include <corvane/workbench/bindings/PropertyKey.hpp>
 
 #include <gtest/gtest.h>
 

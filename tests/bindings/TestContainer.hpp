@@ -1,8 +1,6 @@
-// A property container whose properties a test lists, and which records what it is asked.
 #pragma once
 
 #include "Trace.hpp"
-
 #include <corvane/workbench/bindings/CrossReferenceController.hpp>
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyId.hpp>
@@ -15,6 +13,7 @@
 
 namespace corvane::workbench::bindings::test {
 
+/// A property container whose properties a test lists, and which records what it is asked.
 class TestContainer : public PropertyContainer {
 public:
     struct Part {
@@ -28,7 +27,7 @@ public:
 
     TestContainer() = default;
     TestContainer(std::string containerName, Trace& containerTrace)
-        : name{std::move(containerName)}, trace{&containerTrace} {}
+        : name(std::move(containerName)), trace(&containerTrace) {}
 
     using PropertyContainer::localPropertyErrorCountChanged;
     using PropertyContainer::raisePropertyNotification;

@@ -1,4 +1,3 @@
-// A property controller whose properties a test describes.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyController.hpp>
@@ -8,13 +7,14 @@
 
 namespace corvane::workbench::bindings::test {
 
+/// A property controller whose properties a test describes.
 class TestController : public PropertyController {
 public:
     using Context = PropertyConfigurationContext;
 
     TestController() = default;
     explicit TestController(std::function<void(Context&)> describe)
-        : onConfigure{std::move(describe)} {}
+        : onConfigure(std::move(describe)) {}
 
     using PropertyContainer::subPropertyContainerAdded;
     using PropertyContainer::subPropertyContainerListChanged;

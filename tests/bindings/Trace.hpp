@@ -1,4 +1,3 @@
-// A record of what happened, in order: words with one blank between them.
 #pragma once
 
 #include <string>
@@ -7,6 +6,7 @@
 
 namespace corvane::workbench::bindings::test {
 
+/// A record of what happened, in order: words with one blank between them.
 class Trace {
 public:
     void add(std::string_view word) {

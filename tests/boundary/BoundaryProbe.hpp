@@ -1,6 +1,3 @@
-// What the skill libraries of these tests offer to the program: the things that have to cross from
-// one library into another. Reached through the skill's instance with dynamic_cast, which itself
-// needs the two sides to agree on types.
 #pragma once
 
 #include <corvane/utils/core/function_ref.hpp>
@@ -13,6 +10,9 @@
 
 namespace corvane::tests {
 
+/// What the skill libraries of these tests offer to the program: the things that have to cross from
+/// one library into another. Reached through the skill's instance with dynamic_cast, which itself
+/// needs the two sides to agree on types.
 class BoundaryProbe : public workbench::skill::Skill {
 public:
     /// Throws a std::runtime_error "from the skill".

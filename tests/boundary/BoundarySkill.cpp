@@ -1,5 +1,4 @@
 #include "BoundaryProbe.hpp"
-
 #include <corvane/utils/json/decoder/Exception.hpp>
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>

@@ -1,7 +1,6 @@
 // Skills are found wherever their library comes from: linked in, loaded with the program, or opened
 // while it runs. This program opens libraries that stay open, so each test asks for all it needs.
 #include "linkedSkill.hpp"
-
 #include <corvane/workbench/host/SkillLibrary.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
 

@@ -1,6 +1,5 @@
 // Exceptions, expected values and strings cross between the program and a skill library, both ways.
 #include "BoundaryProbe.hpp"
-
 #include <corvane/utils/json/decoder/Exception.hpp>
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>

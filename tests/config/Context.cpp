@@ -1,7 +1,6 @@
 #include <corvane/workbench/config/Context.hpp>
 
 #include "virtualPosition.hpp"
-
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/decoder/Document.hpp>
 #include <corvane/utils/json/decoder/Exception.hpp>

@@ -1,6 +1,5 @@
-#include <corvane/workbench/bindings/functional.hpp>
-
 #include "TextBox.hpp"
+#include <corvane/workbench/bindings/functional.hpp>
 
 #include <gtest/gtest.h>
 

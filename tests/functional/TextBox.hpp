@@ -1,5 +1,3 @@
-// A text box for the tests: text and selection in one line, "|" for the cursor and "[" "]" for the
-// two ends of a selection, whichever way round.
 #pragma once
 
 #include <cstdint>
@@ -11,6 +9,8 @@
 
 namespace corvane::workbench::bindings::functional::test {
 
+/// A text box for the tests: text and selection in one line, "|" for the cursor and "[" "]" for the
+/// two ends of a selection, whichever way round.
 struct TextBox {
     std::wstring text;
     std::uint64_t selectionStart = 0;

@@ -1,7 +1,6 @@
 // Counts the memory that the adjusters ask for: they run on every keystroke.
-#include <corvane/workbench/bindings/functional.hpp>
-
 #include "TextBox.hpp"
+#include <corvane/workbench/bindings/functional.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
 // Configurations whose file names, paths and line ends are those of other places.
 #include "WorkbenchFixture.hpp"
-
 #include "utils/io/DeepFolder.hpp"
 
 namespace {

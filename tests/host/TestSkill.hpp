@@ -1,10 +1,11 @@
+#pragma once
+
 // A small skill for the tests of the reference workbench. Its element classes:
 //
 //   group   accepts every child; no settings
 //   leaf    accepts none; no settings
 //   point   accepts every child; a limit, references of every kind, and rows with one each
 //   custom  a custom element that accepts every child
-#pragma once
 
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyKey.hpp>

@@ -1,9 +1,9 @@
-// What most tests of the workbench need: one with the test skill, texts in and out, and a record
-// of what is told to observers.
 #pragma once
 
-#include "TestSkill.hpp"
+// What most tests of the workbench need: one with the test skill, texts in and out, and a record
+// of what is told to observers.
 
+#include "TestSkill.hpp"
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/host/Workbench.hpp>

@@ -1,5 +1,4 @@
 #include "WorkbenchFixture.hpp"
-
 #include <corvane/workbench/config/Context.hpp>
 
 #include <algorithm>

@@ -1,5 +1,4 @@
 #include "WorkbenchFixture.hpp"
-
 #include <corvane/workbench/model/ElementReference.hpp>
 
 namespace {

@@ -1,7 +1,6 @@
 // Long messages on a small stack.
-#include <corvane/workbench/i18n/jsonErrorMessage.hpp>
-
 #include "onStack.hpp"
+#include <corvane/workbench/i18n/jsonErrorMessage.hpp>
 
 #include <gtest/gtest.h>
 

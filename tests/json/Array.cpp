@@ -1,7 +1,6 @@
 #include <corvane/workbench/json/Array.hpp>
 
 #include "decoding.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/workbench/json/Value.hpp>
 

@@ -1,7 +1,6 @@
 #include <corvane/workbench/json/Object.hpp>
 
 #include "decoding.hpp"
-
 #include <corvane/utils/json/decoder/Name.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/workbench/json/Value.hpp>

@@ -1,4 +1,3 @@
-// Random values of the document model that survive being written and read.
 #pragma once
 
 #include <corvane/workbench/json/Value.hpp>
@@ -12,6 +11,7 @@
 
 namespace corvane::workbench::json::test {
 
+/// Random values of the document model that survive being written and read.
 class RandomValue {
 public:
     explicit RandomValue(std::uint32_t seed) : random_(seed) {}

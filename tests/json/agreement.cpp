@@ -1,8 +1,7 @@
 // Two independent libraries accept the same texts and find the same values in the same order.
-#include <corvane/workbench/json/Value.hpp>
-
 #include "RandomValue.hpp"
 #include "judges.hpp"
+#include <corvane/workbench/json/Value.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
-// Opens a decoder document over a text for the length of one call.
 #pragma once
+
+// Opens a decoder document over a text for the length of one call.
 
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/decoder/Document.hpp>

@@ -1,5 +1,6 @@
-// Compares the document model with two independent JSON libraries.
 #pragma once
+
+// Compares the document model with two independent JSON libraries.
 
 #include <corvane/workbench/json/Value.hpp>
 

@@ -1,7 +1,6 @@
 // The deepest values that the decoder accepts, on a thread with a stack of 1 MiB.
-#include <corvane/workbench/json/Value.hpp>
-
 #include "onStack.hpp"
+#include <corvane/workbench/json/Value.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
-#include <corvane/workbench/json/Value.hpp>
-
 #include "RandomValue.hpp"
+#include <corvane/workbench/json/Value.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,3 @@
-// The include graph of a source tree: which file of ours includes which other file of ours.
 #pragma once
 
 #include <filesystem>
@@ -9,6 +8,8 @@
 
 namespace corvane::tests {
 
+/// The include graph of a source tree: which file of ours includes which other file of ours.
+///
 /// A node is a file, named by its path relative to the top folder with "/" between the parts. An
 /// edge is an #include that names a file of the graph; includes of anything else are left out.
 class IncludeGraph {

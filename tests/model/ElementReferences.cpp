@@ -1,11 +1,10 @@
 // The references that an element makes to itself and to its members.
+#include "FakeElement.hpp"
+#include "internal/RecordingProxy.hpp"
 #include <corvane/workbench/model/AttributeReference.hpp>
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/process/EventReference.hpp>
 #include <corvane/workbench/process/TaskReference.hpp>
-
-#include "FakeElement.hpp"
-#include "internal/RecordingProxy.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

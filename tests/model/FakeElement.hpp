@@ -1,7 +1,5 @@
 #pragma once
 
-// An element whose answers are public fields and which writes down every question.
-
 #include <corvane/workbench/model/Element.hpp>
 #include <corvane/workbench/model/internal/AbstractChildElementAccessor.hpp>
 
@@ -26,6 +24,7 @@ public:
     [[nodiscard]] const workbench::model::Element& elementAt(std::size_t index) const override;
 };
 
+/// An element whose answers are public fields and which writes down every question.
 class FakeElement : public workbench::model::Element {
 public:
     std::string elementName = "valve";

@@ -1,8 +1,5 @@
 #pragma once
 
-// The skill's half of a fake element: a class without properties, and an element of that class
-// that is attached to a supervisor of its own.
-
 #include <corvane/workbench/skill/Element.hpp>
 #include <corvane/workbench/skill/internal/AbstractElementSupervisor.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
@@ -29,6 +26,8 @@ public:
     [[nodiscard]] std::string defaultName() const override { return "valve"; }
 };
 
+/// The skill's half of a fake element: a class without properties, and an element of that class
+/// that is attached to a supervisor of its own.
 class FakeSkillElement : public workbench::skill::Element {
 public:
     FakeSkillElement(const workbench::model::Element& element, const Class& elementClass)

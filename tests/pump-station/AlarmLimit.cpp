@@ -1,5 +1,4 @@
 #include "PumpStationTest.hpp"
-
 #include <corvane/workbench/skill/SubElement.hpp>
 
 namespace {

@@ -1,5 +1,4 @@
 #include "PumpStationTest.hpp"
-
 #include <corvane/workbench/host/Observer.hpp>
 
 namespace {

@@ -1,5 +1,4 @@
 #include "PumpStationTest.hpp"
-
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 
 namespace {

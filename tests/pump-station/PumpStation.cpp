@@ -1,7 +1,5 @@
 #include "PumpStationTest.hpp"
-
 #include "demo/findProperty.hpp"
-
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/encoder/Document.hpp>

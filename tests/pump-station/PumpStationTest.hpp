@@ -1,5 +1,3 @@
-// What the tests of the example skill need: a workbench with the skill's library, and properties
-// addressed by their paths and read as texts. The skill's C++ classes stay inside its library.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
@@ -36,6 +34,8 @@ namespace skill = corvane::workbench::skill;
                                                   const host::LoadResult& result,
                                                   const std::filesystem::path& file);
 
+/// What the tests of the example skill need: a workbench with the skill's library, and properties
+/// addressed by their paths and read as texts. The skill's C++ classes stay inside its library.
 class PumpStationTest : public testing::Test {
 protected:
     PumpStationTest();

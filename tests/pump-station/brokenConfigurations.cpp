@@ -1,7 +1,6 @@
 // The files of the folder "broken" have one fault each and are named after it. Beside each stands
 // what `skillbench check` prints for it there.
 #include "PumpStationTest.hpp"
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 

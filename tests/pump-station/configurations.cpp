@@ -1,5 +1,4 @@
 #include "PumpStationTest.hpp"
-
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 

@@ -1,5 +1,4 @@
 #include "PumpStationTest.hpp"
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/host/ElementClassRegistry.hpp>

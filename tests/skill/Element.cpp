@@ -4,7 +4,6 @@
 #include "RecordingSupervisor.hpp"
 #include "model/FakeElement.hpp"
 #include "model/internal/savedText.hpp"
-
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/decoder/Document.hpp>
 #include <corvane/utils/json/decoder/Exception.hpp>

@@ -1,7 +1,5 @@
 #pragma once
 
-// An element class that overrides nothing but what it must.
-
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
@@ -33,6 +31,7 @@ public:
     }
 };
 
+/// An element class that overrides nothing but what it must.
 class PumpClass : public workbench::skill::Element::Class {
 public:
     std::string_view id() const override { return "pump"; }

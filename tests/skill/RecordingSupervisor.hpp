@@ -1,11 +1,10 @@
 #pragma once
 
-// A supervisor that hands out what a test gives it and counts the publications it is asked for.
-
 #include <corvane/workbench/skill/internal/AbstractElementSupervisor.hpp>
 
 namespace corvane::tests {
 
+/// A supervisor that hands out what a test gives it and counts the publications it is asked for.
 class RecordingSupervisor final : public workbench::skill::internal::AbstractElementSupervisor {
 public:
     RecordingSupervisor(const workbench::model::Element& element,

@@ -1,11 +1,9 @@
 // The order of the virtual operations is part of what skills and the workbench rely on.
-#include <corvane/workbench/skill/SubElement.hpp>
-
 #include "PumpClass.hpp"
 #include "RecordingSupervisor.hpp"
 #include "virtualPosition.hpp"
-
 #include <corvane/workbench/skill/Skill.hpp>
+#include <corvane/workbench/skill/SubElement.hpp>
 
 #include <gtest/gtest.h>
 

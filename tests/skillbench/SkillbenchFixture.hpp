@@ -1,5 +1,6 @@
-// Runs skillbench in process, on files of its own.
 #pragma once
+
+// Runs skillbench in process, on files of its own.
 
 #include "run.hpp"
 #include "text.hpp"

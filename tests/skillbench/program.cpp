@@ -1,7 +1,6 @@
 // Runs the program itself, as a shell does.
 
 #include "SkillbenchFixture.hpp"
-
 #include <corvane/utils/string/transcode.hpp>
 
 #include <cstdlib>

@@ -1,7 +1,6 @@
 #include "ElementWatch.hpp"
 
 #include "columns.hpp"
-
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/skill/Element.hpp>

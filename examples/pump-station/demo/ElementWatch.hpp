@@ -1,9 +1,5 @@
 #pragma once
 
-// Prints what a user interface that shows an element is told: the callbacks of its properties and
-// of the rows of its lists, in the order in which they come, and the error counts on their way from
-// the element up to the root.
-
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
@@ -17,6 +13,10 @@
 
 namespace pump_station::demo {
 
+/// Prints what a user interface that shows an element is told: the callbacks of its properties and
+/// of the rows of its lists, in the order in which they come, and the error counts on their way
+/// from the element up to the root.
+///
 /// Ends before the element does, and before rows of its lists are removed. Rows that are inserted
 /// are watched as well.
 class ElementWatch {

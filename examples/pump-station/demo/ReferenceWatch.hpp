@@ -1,7 +1,5 @@
 #pragma once
 
-// Prints what an edit of the tree does to the references between the elements.
-
 #include <corvane/workbench/host/Observer.hpp>
 
 #include <iosfwd>
@@ -12,6 +10,8 @@ class Workbench;
 
 namespace pump_station::demo {
 
+/// Prints what an edit of the tree does to the references between the elements.
+///
 /// Observes the workbench, which must outlive it.
 class ReferenceWatch final : public corvane::workbench::host::Observer {
 public:

@@ -8,7 +8,6 @@
 #include "console.hpp"
 #include "findProperty.hpp"
 #include "printTree.hpp"
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/host/Workbench.hpp>

@@ -1,7 +1,6 @@
 #include "printTree.hpp"
 
 #include "columns.hpp"
-
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>

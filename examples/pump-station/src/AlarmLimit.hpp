@@ -1,10 +1,6 @@
 #pragma once
 
-// A row in the list of a measurement's alarm limits. Every change of a row is raised as a change of
-// the list property of the measurement.
-
 #include "MeasuringRange.hpp"
-
 #include <corvane/workbench/bindings/PropertyKey.hpp>
 #include <corvane/workbench/chrono/Duration.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
@@ -20,6 +16,8 @@ class Array;
 
 namespace pump_station {
 
+/// A row in the list of a measurement's alarm limits. Every change of a row is raised as a change
+/// of the list property of the measurement.
 class AlarmLimit final : public corvane::workbench::skill::SubElement {
 public:
     /// From the lowest to the highest.

@@ -7,7 +7,6 @@
 #include "settingsEditor.hpp"
 #include "timeStamps.hpp"
 #include "visitUntil.hpp"
-
 #include <corvane/utils/json/decoder/AllowLegacyMicrosecondsTag.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>

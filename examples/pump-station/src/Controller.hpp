@@ -1,8 +1,5 @@
 #pragma once
 
-// A controller on the network, with its pumps, valves and data points. Shows visibility that
-// depends on a choice, a rule that compares two settings, durations, a time stamp and a UUID.
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/chrono/Duration.hpp>
 #include <corvane/workbench/json/Object.hpp>
@@ -13,6 +10,8 @@
 
 namespace pump_station {
 
+/// A controller on the network, with its pumps, valves and data points. Shows visibility that
+/// depends on a choice, a rule that compares two settings, durations, a time stamp and a UUID.
 class Controller final : public corvane::workbench::skill::Element {
 public:
     enum class Security { None, Certificate };

@@ -1,8 +1,5 @@
 #pragma once
 
-// Describes one class of elements to the workbench. All element classes of this skill differ only
-// in what they say about themselves, so one class, filled in differently, serves them all.
-
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/model/ElementCategory.hpp>
 #include <corvane/workbench/skill/Element.hpp>
@@ -12,6 +9,8 @@
 
 namespace pump_station {
 
+/// Describes one class of elements to the workbench. All element classes of this skill differ only
+/// in what they say about themselves, so one class, filled in differently, serves them all.
 class ElementClass final : public corvane::workbench::skill::Element::Class {
 public:
     /// What an element class says about itself; the texts are literals.

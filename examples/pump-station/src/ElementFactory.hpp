@@ -1,8 +1,5 @@
 #pragma once
 
-// Makes elements of one C++ class. Copying relies on the copy constructor of that class: it copies
-// the settings, while its base starts afresh, without a place in the tree.
-
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
@@ -10,6 +7,8 @@
 
 namespace pump_station {
 
+/// Makes elements of one C++ class. Copying relies on the copy constructor of that class: it copies
+/// the settings, while its base starts afresh, without a place in the tree.
 template <class T>
 class ElementFactory final : public corvane::workbench::skill::AbstractElementFactory {
 public:

@@ -3,7 +3,6 @@
 #include "editors.hpp"
 #include "members.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/bindings/PropertyKey.hpp>

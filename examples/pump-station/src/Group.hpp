@@ -1,14 +1,13 @@
 #pragma once
 
-// An element that only holds others: an area of the station, or a group of measurements. Two
-// element classes share it. The smallest complete element: read this one first.
-
 #include <corvane/workbench/skill/Element.hpp>
 
 #include <string>
 
 namespace pump_station {
 
+/// An element that only holds others: an area of the station, or a group of measurements. Two
+/// element classes share it. The smallest complete element: read this one first.
 class Group final : public corvane::workbench::skill::Element {
 public:
     void forEachEditableProperty(

@@ -1,13 +1,12 @@
 #pragma once
 
-// What the descriptions of all properties have in common.
-
 #include <corvane/workbench/bindings/PropertyHandle.hpp>
 
 #include <string_view>
 
 namespace pump_station {
 
+/// What the descriptions of all properties have in common.
 struct Label {
     /// As in configuration files.
     std::string_view name;

@@ -5,7 +5,6 @@
 #include "members.hpp"
 #include "text.hpp"
 #include "visitUntil.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>

@@ -1,13 +1,9 @@
 #pragma once
 
-// A measured value with its alarm limits. Shows a list of sub-elements: rows with properties of
-// their own, whose changes reach the list property, and a rule over all rows.
-
 #include "AlarmLimit.hpp"
 #include "MeasuringRange.hpp"
 #include "SubElementList.hpp"
 #include "rules.hpp"
-
 #include <corvane/workbench/skill/Element.hpp>
 
 #include <cstddef>
@@ -17,6 +13,8 @@
 
 namespace pump_station {
 
+/// A measured value with its alarm limits. Shows a list of sub-elements: rows with properties of
+/// their own, whose changes reach the list property, and a rule over all rows.
 class Measurement final : public corvane::workbench::skill::Element {
 public:
     Measurement();

@@ -1,9 +1,8 @@
 #pragma once
 
-// The values that a measurement can take.
-
 namespace pump_station {
 
+/// The values that a measurement can take.
 struct MeasuringRange {
     double low = 0;
     double high = 100;

@@ -6,7 +6,6 @@
 #include "rules.hpp"
 #include "text.hpp"
 #include "visitUntil.hpp"
-
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/workbench/bindings/PropertyKey.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>

@@ -1,14 +1,13 @@
 #pragma once
 
-// A pump with its drive. Shows a value that follows from other settings, and attributes that depend
-// on a setting.
-
 #include <corvane/workbench/skill/Element.hpp>
 
 #include <string>
 
 namespace pump_station {
 
+/// A pump with its drive. Shows a value that follows from other settings, and attributes that
+/// depend on a setting.
 class Pump final : public corvane::workbench::skill::Element {
 public:
     enum class Drive { FixedSpeed, VariableSpeed };

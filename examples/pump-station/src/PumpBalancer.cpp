@@ -7,7 +7,6 @@
 #include "members.hpp"
 #include "rules.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>

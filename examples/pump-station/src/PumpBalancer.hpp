@@ -1,17 +1,15 @@
 #pragma once
 
-// A microservice that sets the speed of a pump from weighted attributes. Shows a reference to an
-// element of one class, and a list whose rows hold references.
-
 #include "SubElementList.hpp"
 #include "WeightedInput.hpp"
 #include "rules.hpp"
-
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
 namespace pump_station {
 
+/// A microservice that sets the speed of a pump from weighted attributes. Shows a reference to an
+/// element of one class, and a list whose rows hold references.
 class PumpBalancer final : public corvane::workbench::skill::Element {
 public:
     PumpBalancer();

@@ -1,12 +1,12 @@
 #pragma once
 
-// The skill itself. Its one static class object, in the source file, enters the skill into the
-// workbench's list when the library is loaded; nothing else has to be called.
-
 #include <corvane/workbench/skill/Skill.hpp>
 
 namespace pump_station {
 
+/// The skill itself. Its one static class object, in the source file, enters the skill into the
+/// workbench's list when the library is loaded; nothing else has to be called.
+///
 /// The running instance of the skill. This skill keeps nothing beyond its elements.
 class PumpStation final : public corvane::workbench::skill::Skill {
 public:

@@ -3,7 +3,6 @@
 #include "durations.hpp"
 #include "editors.hpp"
 #include "rules.hpp"
-
 #include <corvane/utils/json/decoder/AllowLegacyMicrosecondsTag.hpp>
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>

@@ -1,15 +1,13 @@
 #pragma once
 
-// A timer that triggers tasks at a regular interval. Shows a list of references.
-
 #include "SubElementList.hpp"
 #include "TriggeredTask.hpp"
-
 #include <corvane/workbench/chrono/Duration.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
 namespace pump_station {
 
+/// A timer that triggers tasks at a regular interval. Shows a list of references.
 class SamplingTimer final : public corvane::workbench::skill::Element {
 public:
     SamplingTimer();

@@ -6,7 +6,6 @@
 #include "rules.hpp"
 #include "text.hpp"
 #include "visitUntil.hpp"
-
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>

@@ -1,10 +1,6 @@
 #pragma once
 
-// A wanted value. It is fixed, or follows an event: shows a reference to an event, which is
-// there only while it is needed.
-
 #include "MeasuringRange.hpp"
-
 #include <corvane/workbench/process/EventReference.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
@@ -12,6 +8,8 @@
 
 namespace pump_station {
 
+/// A wanted value. It is fixed, or follows an event: shows a reference to an event, which is
+/// there only while it is needed.
 class Setpoint final : public corvane::workbench::skill::Element {
 public:
     enum class Mode { Fixed, Follow };

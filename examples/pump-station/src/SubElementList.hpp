@@ -1,9 +1,5 @@
 #pragma once
 
-// The rows of a list property. It stands between the element, whose property holds it, and the
-// rows: it adds up their error counts and passes their notifications on. Each row has an allocation
-// of its own and keeps its address, because the user interface and the load context refer to it.
-
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyId.hpp>
 
@@ -17,6 +13,10 @@
 
 namespace pump_station {
 
+/// The rows of a list property. It stands between the element, whose property holds it, and the
+/// rows: it adds up their error counts and passes their notifications on. Each row has an
+/// allocation of its own and keeps its address, because the user interface and the load context
+/// refer to it.
 template <class Row>
 class SubElementList final : public corvane::workbench::bindings::PropertyContainer {
 public:

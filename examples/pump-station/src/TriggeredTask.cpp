@@ -3,7 +3,6 @@
 #include "editors.hpp"
 #include "rules.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/string/transcode.hpp>

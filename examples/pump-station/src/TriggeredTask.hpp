@@ -1,7 +1,5 @@
 #pragma once
 
-// A row in the list of the tasks that a timer triggers.
-
 #include <corvane/workbench/bindings/PropertyKey.hpp>
 #include <corvane/workbench/process/TaskReference.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
@@ -20,6 +18,7 @@ class Context;
 
 namespace pump_station {
 
+/// A row in the list of the tasks that a timer triggers.
 class TriggeredTask final : public corvane::workbench::skill::SubElement {
 public:
     /// The element's property that holds the rows.

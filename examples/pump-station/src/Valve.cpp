@@ -6,7 +6,6 @@
 #include "members.hpp"
 #include "rules.hpp"
 #include "visitUntil.hpp"
-
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/workbench/bindings/PropertyKey.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>

@@ -1,12 +1,11 @@
 #pragma once
 
-// A valve that shuts a pipe or controls its flow.
-
 #include <corvane/workbench/chrono/Duration.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
 namespace pump_station {
 
+/// A valve that shuts a pipe or controls its flow.
 class Valve final : public corvane::workbench::skill::Element {
 public:
     enum class Kind { ShutOff, Control };

@@ -4,7 +4,6 @@
 #include "members.hpp"
 #include "rules.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/encoder/Array.hpp>

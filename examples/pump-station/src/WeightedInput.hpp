@@ -1,7 +1,5 @@
 #pragma once
 
-// A row in the list of the attributes that a balancer weighs up.
-
 #include <corvane/workbench/bindings/PropertyKey.hpp>
 #include <corvane/workbench/model/AttributeReference.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
@@ -20,6 +18,7 @@ class Context;
 
 namespace pump_station {
 
+/// A row in the list of the attributes that a balancer weighs up.
 class WeightedInput final : public corvane::workbench::skill::SubElement {
 public:
     /// The element's property that holds the rows.

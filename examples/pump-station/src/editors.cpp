@@ -2,7 +2,6 @@
 
 #include "durations.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/numeric/parse.hpp>
 #include <corvane/utils/string/transcode.hpp>

@@ -8,7 +8,6 @@
 #include "Label.hpp"
 #include "SubElementList.hpp"
 #include "rules.hpp"
-
 #include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 

@@ -1,7 +1,6 @@
 #include "settingsEditor.hpp"
 
 #include "editors.hpp"
-
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/json/Object.hpp>

@@ -3,7 +3,6 @@
 // The editor of free-form settings: one line of JSON.
 
 #include "Label.hpp"
-
 #include <corvane/workbench/skill/EditableProperty.hpp>
 
 namespace corvane::workbench::json {

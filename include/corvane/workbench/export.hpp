@@ -1,6 +1,7 @@
+#pragma once
+
 // The export macro of the plug-in library. Classes and functions marked with it are the
 // library's whole binary surface; everything else has hidden visibility.
-#pragma once
 
 #if defined(_WIN32)
 #if defined(CORVANE_WORKBENCH_BUILDING)

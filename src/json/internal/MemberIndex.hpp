@@ -1,5 +1,3 @@
-// Finds members of an object by name while the object is built. A small object is searched from
-// the front; a large one gets a hash table of positions, in one allocation.
 #pragma once
 
 #include <corvane/workbench/json/Object.hpp>
@@ -14,6 +12,8 @@
 
 namespace corvane::workbench::json::internal {
 
+/// Finds members of an object by name while the object is built. A small object is searched from
+/// the front; a large one gets a hash table of positions, in one allocation.
 class MemberIndex {
 public:
     static constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();

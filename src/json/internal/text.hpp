@@ -1,5 +1,6 @@
-// What the three classes of the document model share between themselves and JSON text.
 #pragma once
+
+// What the three classes of the document model share between themselves and JSON text.
 
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/decoder/Document.hpp>

@@ -1,5 +1,6 @@
-#include <corvane/utils/json/encoder/Value.hpp>
 #include <corvane/workbench/model/internal/AbstractCrossReferenceProxy.hpp>
+
+#include <corvane/utils/json/encoder/Value.hpp>
 
 #include <format>
 
@@ -12,7 +13,7 @@ AbstractCrossReferenceProxy&
 AbstractCrossReferenceProxy::operator=(const AbstractCrossReferenceProxy&) = default;
 AbstractCrossReferenceProxy::~AbstractCrossReferenceProxy() = default;
 
-void AbstractCrossReferenceProxy::writeKey(corvane::utils::json::encoder::Value& value,
+void AbstractCrossReferenceProxy::writeKey(utils::json::encoder::Value& value,
                                            std::string_view prefix, std::string_view key,
                                            std::optional<std::string_view> memberName) {
     std::string text = std::format("{}{}", prefix, key);

@@ -1,6 +1,7 @@
+#include <corvane/workbench/model/internal/BasicElementReference.hpp>
+
 #include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>
-#include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <string>
 #include <utility>

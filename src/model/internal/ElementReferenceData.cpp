@@ -1,5 +1,6 @@
-#include "ImportReferenceProxy.hpp"
+#include <corvane/workbench/model/internal/ElementReferenceData.hpp>
 
+#include "ImportReferenceProxy.hpp"
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
@@ -7,7 +8,6 @@
 #include <corvane/workbench/i18n/translate.hpp>
 #include <corvane/workbench/model/Attribute.hpp>
 #include <corvane/workbench/model/Element.hpp>
-#include <corvane/workbench/model/internal/ElementReferenceData.hpp>
 #include <corvane/workbench/process/Event.hpp>
 #include <corvane/workbench/process/EventSearchOptions.hpp>
 #include <corvane/workbench/process/Task.hpp>
@@ -23,13 +23,13 @@ std::wstring message(std::string_view text) {
 }
 
 std::wstring message(std::string_view text, std::string_view argument) {
-    const std::wstring wide = corvane::utils::string::toWide(argument);
+    const std::wstring wide = utils::string::toWide(argument);
     return std::vformat(message(text), std::make_wformat_args(wide));
 }
 
 std::wstring message(std::string_view text, std::string_view first, std::string_view second) {
-    const std::wstring wideFirst = corvane::utils::string::toWide(first);
-    const std::wstring wideSecond = corvane::utils::string::toWide(second);
+    const std::wstring wideFirst = utils::string::toWide(first);
+    const std::wstring wideSecond = utils::string::toWide(second);
     return std::vformat(message(text), std::make_wformat_args(wideFirst, wideSecond));
 }
 
@@ -259,7 +259,7 @@ std::string ElementReferenceData::primaryKey() const {
     return key;
 }
 
-void ElementReferenceData::save(corvane::utils::json::encoder::Value& value) const {
+void ElementReferenceData::save(utils::json::encoder::Value& value) const {
     if (proxy_) {
         proxy_->save(value, suffix_, memberName_);
     } else {
@@ -267,14 +267,14 @@ void ElementReferenceData::save(corvane::utils::json::encoder::Value& value) con
     }
 }
 
-void ElementReferenceData::saveTo(corvane::utils::json::encoder::Array& array) const {
-    corvane::utils::json::encoder::Value value = array.addElement();
+void ElementReferenceData::saveTo(utils::json::encoder::Array& array) const {
+    utils::json::encoder::Value value = array.addElement();
     save(value);
 }
 
-void ElementReferenceData::saveTo(corvane::utils::json::encoder::Object& object,
+void ElementReferenceData::saveTo(utils::json::encoder::Object& object,
                                   std::string_view name) const {
-    corvane::utils::json::encoder::Value value = object.addMember(name);
+    utils::json::encoder::Value value = object.addMember(name);
     save(value);
 }
 

@@ -29,7 +29,7 @@ std::string ElementReferenceData::ImportReferenceProxy::primaryKey() const {
 }
 
 void ElementReferenceData::ImportReferenceProxy::save(
-    corvane::utils::json::encoder::Value& value, std::string_view suffix,
+    utils::json::encoder::Value& value, std::string_view suffix,
     std::optional<std::string_view> memberName) const {
     writeKey(value, kPrefix, suffix, memberName);
 }

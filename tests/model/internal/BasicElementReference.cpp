@@ -1,7 +1,6 @@
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include "RecordingProxy.hpp"
-
 #include <corvane/workbench/bindings/PropertyController.hpp>
 
 #include <gmock/gmock.h>

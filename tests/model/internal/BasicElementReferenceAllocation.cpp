@@ -1,8 +1,7 @@
 // What a reference is after memory has run out in any of its operations.
-#include <corvane/workbench/model/internal/BasicElementReference.hpp>
-
 #include "RecordingProxy.hpp"
 #include "countedAllocations.hpp"
+#include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,10 +1,8 @@
 // What a reference asks of the controller that owns it.
-#include <corvane/workbench/model/internal/BasicElementReference.hpp>
-
+#include "RecordingProxy.hpp"
 #include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>
-
-#include "RecordingProxy.hpp"
+#include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -4,7 +4,6 @@
 #include "RecordingProxy.hpp"
 #include "everyShortText.hpp"
 #include "savedText.hpp"
-
 #include <corvane/workbench/process/EventSearchOptions.hpp>
 
 #include <gmock/gmock.h>

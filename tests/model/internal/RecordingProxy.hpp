@@ -1,7 +1,5 @@
 #pragma once
 
-// A proxy that writes down the calls it gets, and which registration each of them concerns.
-
 #include <corvane/workbench/model/internal/AbstractCrossReferenceProxy.hpp>
 
 #include <algorithm>
@@ -14,6 +12,7 @@
 
 namespace corvane::tests {
 
+/// A proxy that writes down the calls it gets, and which registration each of them concerns.
 class RecordingProxy final : public workbench::model::internal::AbstractCrossReferenceProxy {
 public:
     RecordingProxy(std::string key, std::vector<std::string>& calls,

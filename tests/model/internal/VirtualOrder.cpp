@@ -1,7 +1,6 @@
 // The order of a proxy's virtual operations is part of what the workbench relies on.
-#include <corvane/workbench/model/internal/AbstractCrossReferenceProxy.hpp>
-
 #include "virtualPosition.hpp"
+#include <corvane/workbench/model/internal/AbstractCrossReferenceProxy.hpp>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
-#include <corvane/workbench/model/internal/keys.hpp>
-
 #include "countedAllocations.hpp"
+#include <corvane/workbench/model/internal/keys.hpp>
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,6 @@
 
 #include "RecordingProxy.hpp"
 #include "savedText.hpp"
-
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <gmock/gmock.h>

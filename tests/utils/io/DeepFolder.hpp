@@ -1,4 +1,3 @@
-// Folders inside one another, so that a path to the innermost has more than 260 characters.
 #pragma once
 
 #include <filesystem>
@@ -8,6 +7,7 @@
 
 namespace corvane::tests {
 
+/// Folders inside one another, so that a path to the innermost has more than 260 characters.
 class DeepFolder {
 public:
     explicit DeepFolder(const std::filesystem::path& outermost)

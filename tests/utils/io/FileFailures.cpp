@@ -1,8 +1,7 @@
 // What files do when the system refuses; the ways to bring that about are those of Linux.
+#include "utils/io/TemporaryFolder.hpp"
 #include <corvane/utils/io/FileInputStream.hpp>
 #include <corvane/utils/io/FileOutputStream.hpp>
-
-#include "utils/io/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

@@ -1,4 +1,5 @@
 #include <corvane/utils/io/InputStream.hpp>
+
 #include <corvane/utils/io/MemoryInputStream.hpp>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,3 @@
-// A folder of a test's own, removed with everything in it.
 #pragma once
 
 #include <filesystem>
@@ -11,6 +10,7 @@
 
 namespace corvane::tests {
 
+/// A folder of a test's own, removed with everything in it.
 class TemporaryFolder {
 public:
     TemporaryFolder() {

@@ -1,4 +1,5 @@
 #include <corvane/utils/string/BasicStaticString.hpp>
+
 #include <corvane/utils/string/BasicStringView.hpp>
 
 #include <gtest/gtest.h>

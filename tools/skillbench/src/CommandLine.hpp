@@ -1,13 +1,3 @@
-// The arguments of one command: what it takes is described first, then parse() fills it in.
-//
-// Arguments without a dash go to the positional parameters in their order. An option that takes
-// several values takes all up to the next option; when positional parameters are then left without
-// arguments, they get the last ones of these, so that
-//
-//     show --skill a.so b.so plant.json
-//     show --skill a.so plant.json --json
-//
-// mean what they say. Everything behind "--" is positional.
 #pragma once
 
 #include <functional>
@@ -20,6 +10,16 @@
 
 namespace corvane::skillbench {
 
+/// The arguments of one command: what it takes is described first, then parse() fills it in.
+///
+/// Arguments without a dash go to the positional parameters in their order. An option that takes
+/// several values takes all up to the next option; when positional parameters are then left without
+/// arguments, they get the last ones of these, so that
+///
+///     show --skill a.so b.so plant.json
+///     show --skill a.so plant.json --json
+///
+/// mean what they say. Everything behind "--" is positional.
 class CommandLine {
 public:
     /// The name and the description are for the help.

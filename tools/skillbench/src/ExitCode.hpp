@@ -1,8 +1,8 @@
-// What the program answers to the one that called it.
 #pragma once
 
 namespace corvane::skillbench {
 
+/// What the program answers to the one that called it.
 enum ExitCode : int {
     kDone = 0,
     /// The configuration is not right, or what was asked for cannot be done to it.

@@ -1,4 +1,3 @@
-// Ends a command: the sentence that the user reads (UTF-8) and the exit code.
 #pragma once
 
 #include "ExitCode.hpp"
@@ -8,6 +7,7 @@
 
 namespace corvane::skillbench {
 
+/// Ends a command: the sentence that the user reads (UTF-8) and the exit code.
 class Failure : public std::runtime_error {
 public:
     Failure(ExitCode exitCode, const std::string& sentence)

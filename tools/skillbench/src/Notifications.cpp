@@ -3,7 +3,6 @@
 #include "editableProperties.hpp"
 #include "referenceProperty.hpp"
 #include "text.hpp"
-
 #include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>

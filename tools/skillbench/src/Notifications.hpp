@@ -1,6 +1,3 @@
-// Does what a user interface with everything open would do: subscribes to all properties and error
-// counts of all elements, observes the workbench, and prints each notification as it comes, on a
-// line of its own.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyController.hpp>
@@ -17,6 +14,10 @@ namespace corvane::skillbench {
 
 struct PropertyPlace;
 
+/// Does what a user interface with everything open would do: subscribes to all properties and error
+/// counts of all elements, observes the workbench, and prints each notification as it comes, on a
+/// line of its own.
+///
 /// Must end before the workbench and its elements, and while it lives no other configuration
 /// is loaded.
 class Notifications final : private workbench::host::Observer {

@@ -1,8 +1,6 @@
-// A workbench with the skills and the configuration that a command line names.
 #pragma once
 
 #include "Streams.hpp"
-
 #include <corvane/workbench/host/Problem.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 
@@ -26,6 +24,7 @@ struct ConfigurationArguments {
     void addTo(CommandLine& commandLine);
 };
 
+/// A workbench with the skills and the configuration that a command line names.
 class OpenConfiguration {
 public:
     /// Opens the libraries and loads the configuration, which may fail: see loaded(). Throws a

@@ -1,5 +1,3 @@
-// One line that says how far a load has come. It appears when the load takes long and disappears
-// when it ends, so that short loads show nothing.
 #pragma once
 
 #include <corvane/workbench/host/LoadProgress.hpp>
@@ -10,6 +8,8 @@
 
 namespace corvane::skillbench {
 
+/// One line that says how far a load has come. It appears when the load takes long and disappears
+/// when it ends, so that short loads show nothing.
 class ProgressBar {
 public:
     static constexpr std::chrono::milliseconds kPatience{300};

@@ -1,4 +1,3 @@
-// Writes to a standard stream, for what only knows this project's own streams.
 #pragma once
 
 #include <corvane/utils/io/OutputStream.hpp>
@@ -9,6 +8,8 @@
 
 namespace corvane::skillbench {
 
+/// Writes to a standard stream, for what only knows this project's own streams.
+///
 /// The standard stream must outlive this one; flush() hands it everything.
 class StandardOutputStream final : public utils::io::OutputStream<char> {
 public:

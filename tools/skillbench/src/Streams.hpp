@@ -1,10 +1,10 @@
-// Where a command writes: UTF-8, with "\n" at the end of a line on every platform.
 #pragma once
 
 #include <iosfwd>
 
 namespace corvane::skillbench {
 
+/// Where a command writes: UTF-8, with "\n" at the end of a line on every platform.
 struct Streams {
     std::ostream& out;
     std::ostream& err;

@@ -1,4 +1,3 @@
-// A text box with a cursor and a selection, as far as keys go. Positions count UTF-16 code units.
 #pragma once
 
 #include <cstddef>
@@ -8,6 +7,7 @@
 
 namespace corvane::skillbench {
 
+/// A text box with a cursor and a selection, as far as keys go. Positions count UTF-16 code units.
 class TextBox {
 public:
     TextBox() = default;

@@ -1,5 +1,6 @@
-// Splits texts such as "KEY=VALUE", where the key may contain "=" itself.
 #pragma once
+
+// Splits texts such as "KEY=VALUE", where the key may contain "=" itself.
 
 #include <corvane/utils/core/function_ref.hpp>
 

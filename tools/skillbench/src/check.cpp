@@ -5,7 +5,6 @@
 #include "commands.hpp"
 #include "configurationProblems.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/numeric/format.hpp>

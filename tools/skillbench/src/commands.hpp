@@ -1,6 +1,7 @@
+#pragma once
+
 // The commands of skillbench. Each takes the arguments behind its name, writes to the streams and
 // returns the exit code; what cannot be done is thrown as a Failure.
-#pragma once
 
 #include "Streams.hpp"
 

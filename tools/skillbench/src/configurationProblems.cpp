@@ -2,7 +2,6 @@
 
 #include "OpenConfiguration.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/numeric/format.hpp>
 #include <corvane/utils/string/transcode.hpp>

@@ -1,6 +1,7 @@
+#pragma once
+
 // Everything that is wrong with a configuration: what its load had to say and the properties whose
 // values are not valid.
-#pragma once
 
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/workbench/host/Problem.hpp>

@@ -5,10 +5,9 @@
 
 #include <fcntl.h>
 #include <io.h>
+#include <shellapi.h>
 #include <stdio.h>
 #include <windows.h>
-
-#include <shellapi.h>
 #else
 #include <unistd.h>
 #endif

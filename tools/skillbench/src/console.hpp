@@ -1,5 +1,6 @@
-// What differs between the consoles of the platforms.
 #pragma once
+
+// What differs between the consoles of the platforms.
 
 #include <string>
 #include <vector>

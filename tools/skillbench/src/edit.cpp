@@ -6,7 +6,6 @@
 #include "commands.hpp"
 #include "editableProperties.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>

@@ -1,7 +1,6 @@
 #include "editableProperties.hpp"
 
 #include "text.hpp"
-
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>

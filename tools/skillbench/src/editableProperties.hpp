@@ -1,7 +1,8 @@
+#pragma once
+
 // Walks through the properties of an element, those of the rows of its lists included, and finds
 // one by its path: the names on the way to it, joined by ".", where a row is named by its number
 // counted from 0 ("alarmLimits.0.high").
-#pragma once
 
 #include <corvane/utils/core/function_ref.hpp>
 

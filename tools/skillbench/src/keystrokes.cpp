@@ -3,7 +3,6 @@
 #include "Failure.hpp"
 #include "TextBox.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/string/transcode.hpp>
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-// Keystrokes written as text: each character is a key, other keys stand in angle brackets.
 #pragma once
+
+// Keystrokes written as text: each character is a key, other keys stand in angle brackets.
 
 #include <functional>
 #include <string>

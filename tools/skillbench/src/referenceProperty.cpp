@@ -1,7 +1,6 @@
 #include "referenceProperty.hpp"
 
 #include "editableProperties.hpp"
-
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 

@@ -1,5 +1,6 @@
-// Finds the property that a reference is.
 #pragma once
+
+// Finds the property that a reference is.
 
 #include <string>
 

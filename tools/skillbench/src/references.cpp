@@ -5,7 +5,6 @@
 #include "editableProperties.hpp"
 #include "referenceProperty.hpp"
 #include "text.hpp"
-
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-// The whole program but for the console.
 #pragma once
+
+// The whole program but for the console.
 
 #include "Streams.hpp"
 

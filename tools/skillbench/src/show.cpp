@@ -5,7 +5,6 @@
 #include "editableProperties.hpp"
 #include "showJson.hpp"
 #include "text.hpp"
-
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
 

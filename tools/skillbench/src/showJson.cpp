@@ -4,7 +4,6 @@
 #include "StandardOutputStream.hpp"
 #include "configurationProblems.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>

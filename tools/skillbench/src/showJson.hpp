@@ -1,5 +1,6 @@
-// The tree of a configuration as JSON.
 #pragma once
+
+// The tree of a configuration as JSON.
 
 #include <iosfwd>
 

@@ -3,7 +3,6 @@
 #include "StandardOutputStream.hpp"
 #include "commands.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>

@@ -1,5 +1,6 @@
-// Texts as the commands print them. All narrow text is UTF-8.
 #pragma once
+
+// Texts as the commands print them. All narrow text is UTF-8.
 
 #include <cstddef>
 #include <cstdint>

@@ -4,7 +4,6 @@
 #include "commands.hpp"
 #include "keystrokes.hpp"
 #include "text.hpp"
-
 #include <corvane/utils/numeric/parse.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/bindings/functional.hpp>

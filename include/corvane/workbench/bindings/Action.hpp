@@ -1,10 +1,11 @@
-// What kind of edit changed a property's value.
 #pragma once
 
 #include <cstdint>
 
 namespace corvane::workbench::bindings {
 
+/// What kind of edit changed a property's value.
+///
 /// Describes a change of a value to its subscribers, together with an index. Publishers choose it,
 /// controllers pass it on untouched.
 enum class Action : std::uint32_t {

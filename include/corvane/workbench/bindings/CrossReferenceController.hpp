@@ -1,4 +1,3 @@
-// The base of every property value that refers to another element.
 #pragma once
 
 #include <corvane/workbench/export.hpp>
@@ -7,6 +6,8 @@ namespace corvane::workbench::bindings {
 
 class PropertyController;
 
+/// The base of every property value that refers to another element.
+///
 /// Remembers which controller owns the property that holds this value, so that the value can ask
 /// it to publish the property when the referenced element changes.
 ///

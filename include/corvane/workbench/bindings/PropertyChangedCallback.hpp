@@ -1,4 +1,3 @@
-// The callback of a subscriber to a property's value.
 #pragma once
 
 #include <corvane/workbench/bindings/Action.hpp>
@@ -13,6 +12,8 @@
 
 namespace corvane::workbench::bindings {
 
+/// The callback of a subscriber to a property's value.
+///
 /// Holds nothing, a callable that wants to know only that the value changed, or one that is told
 /// the kind of change and its index. Copies and moves as what it holds.
 class CORVANE_WORKBENCH_EXPORT PropertyChangedCallback {

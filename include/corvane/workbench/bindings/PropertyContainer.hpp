@@ -1,4 +1,3 @@
-// The base of everything that owns editable properties and can be nested in another owner.
 #pragma once
 
 #include <corvane/utils/core/function_ref.hpp>
@@ -15,6 +14,8 @@ namespace corvane::workbench::bindings {
 class CrossReferenceController;
 class PropertyId;
 
+/// The base of everything that owns editable properties and can be nested in another owner.
+///
 /// Keeps what all owners of properties share: the link to the enclosing container, the error count
 /// of the containers below, and the subscribers to this container's error count. It holds no
 /// properties; the subclass answers for them through the private virtual operations.
@@ -67,8 +68,8 @@ public:
         /// Makes an empty handle: copying the owner of a subscription must not end in two owners.
         ErrorCountSubscription(const ErrorCountSubscription&) noexcept {}
         ErrorCountSubscription(ErrorCountSubscription&& other) noexcept
-            : container_{std::exchange(other.container_, nullptr)},
-              id_{std::exchange(other.id_, 0)} {}
+            : container_(std::exchange(other.container_, nullptr)),
+              id_(std::exchange(other.id_, 0)) {}
         /// Does nothing, for the same reason.
         ErrorCountSubscription& operator=(const ErrorCountSubscription&) noexcept { return *this; }
         /// Ends the target's own subscription first.
@@ -86,7 +87,7 @@ public:
         ErrorCountSubscription(InternalConstructorTag,
                                std::reference_wrapper<PropertyContainer> container,
                                std::uint64_t id) noexcept
-            : container_{&container.get()}, id_{id} {}
+            : container_(&container.get()), id_(id) {}
 
         PropertyContainer* container_ = nullptr;
         std::uint64_t id_ = 0;

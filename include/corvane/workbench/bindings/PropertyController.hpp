@@ -1,4 +1,3 @@
-// The object through which an element tells the user interface about its properties.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyChangedCallback.hpp>
@@ -21,6 +20,8 @@ namespace corvane::workbench::bindings {
 
 class PropertyHandle;
 
+/// The object through which an element tells the user interface about its properties.
+///
 /// Keeps, for each property, how its validity state and visibility are computed, what they were
 /// when last computed, and who wants to hear of changes. An element publishes a property when it
 /// has changed; the controller then updates the properties that depend on it, calls the
@@ -117,9 +118,9 @@ public:
         /// table) must not end in two owners.
         Subscription(const Subscription&) noexcept {}
         Subscription(Subscription&& other) noexcept
-            : controller_{std::exchange(other.controller_, nullptr)},
-              property_{std::exchange(other.property_, PropertyId())},
-              id_{std::exchange(other.id_, 0)} {}
+            : controller_(std::exchange(other.controller_, nullptr)),
+              property_(std::exchange(other.property_, PropertyId())),
+              id_(std::exchange(other.id_, 0)) {}
         /// Does nothing, for the same reason.
         Subscription& operator=(const Subscription&) noexcept { return *this; }
         /// Ends the target's own subscription first.
@@ -136,7 +137,7 @@ public:
 
         Subscription(InternalConstructorTag, std::reference_wrapper<PropertyController> controller,
                      const PropertyId& property, std::size_t id) noexcept
-            : controller_{&controller.get()}, property_{property}, id_{id} {}
+            : controller_(&controller.get()), property_(property), id_(id) {}
 
         PropertyController* controller_ = nullptr;
         PropertyId property_;
@@ -258,7 +259,7 @@ public:
 private:
     friend class PropertyController;
     explicit PropertyConfigurationContext(PropertyController& controller) noexcept
-        : controller_{controller} {}
+        : controller_(controller) {}
 
     PropertyController& controller_;
 };

@@ -1,4 +1,3 @@
-// What a property controller keeps for one property.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyController.hpp>

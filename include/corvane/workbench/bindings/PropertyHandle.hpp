@@ -1,4 +1,3 @@
-// A property together with the controller that owns it.
 #pragma once
 
 #include <corvane/workbench/bindings/Action.hpp>
@@ -11,6 +10,8 @@
 
 namespace corvane::workbench::bindings {
 
+/// A property together with the controller that owns it.
+///
 /// What user-interface code holds to show, observe and publish one property. A plain value, copied
 /// freely; PropertyController::propertyHandle makes it. Must not be used after the controller is
 /// gone.
@@ -57,7 +58,7 @@ private:
 
     PropertyHandle(InternalConstructorTag, std::reference_wrapper<PropertyController> controller,
                    const PropertyId& property) noexcept
-        : controller_{&controller.get()}, property_{property} {}
+        : controller_(&controller.get()), property_(property) {}
 
     PropertyController* controller_ = nullptr;
     PropertyId property_;

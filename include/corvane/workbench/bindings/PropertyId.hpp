@@ -1,4 +1,3 @@
-// The name of one property: a small value, copied freely, without a link to what it names.
 #pragma once
 
 #include <corvane/workbench/export.hpp>
@@ -23,6 +22,8 @@ namespace corvane::workbench::bindings {
 class PropertyController;
 class PropertyKey;
 
+/// The name of one property: a small value, copied freely, without a link to what it names.
+///
 /// Two 64-bit words that name a property. An identifier is minted either from the address of an
 /// object that stands for the property (unique in the process) or from two words of data (a UUID
 /// for instance). Only the friends mint identifiers; everybody else declares a PropertyKey or asks
@@ -60,7 +61,7 @@ private:
     PropertyId(InternalConstructorTag, const void* address) noexcept
         : words_{std::bit_cast<std::uintptr_t>(address), 0} {}
     constexpr PropertyId(InternalConstructorTag, std::array<std::uint64_t, 2> words) noexcept
-        : words_{words} {}
+        : words_(words) {}
 
     std::array<std::uint64_t, 2> words_{};
 };

@@ -1,4 +1,3 @@
-// A borrowed list of property identifiers.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyId.hpp>
@@ -11,6 +10,8 @@
 
 namespace corvane::workbench::bindings {
 
+/// A borrowed list of property identifiers.
+///
 /// The first and the one-past-last element of a contiguous list of identifiers that somebody else
 /// owns. It is made to be passed in a call: a braced list lives until the end of the full
 /// expression, so do not keep a range (nor a PropertyConfiguration with one) that was made from a
@@ -19,7 +20,7 @@ class PropertyIdRange {
 public:
     constexpr PropertyIdRange() noexcept = default;
     constexpr PropertyIdRange(const PropertyId* first, const PropertyId* last) noexcept
-        : first_{first}, last_{last} {}
+        : first_(first), last_(last) {}
     constexpr PropertyIdRange(std::initializer_list<PropertyId> list) noexcept
         : PropertyIdRange(std::span<const PropertyId>(list.begin(), list.size())) {}
     /// From an array, a vector, a span, or anything else that converts to a span.
@@ -29,7 +30,7 @@ public:
     constexpr PropertyIdRange(const List& list) noexcept
         : PropertyIdRange(static_cast<std::span<const PropertyId>>(list)) {}
     constexpr PropertyIdRange(std::span<const PropertyId> list) noexcept
-        : first_{list.data()}, last_{list.data() + list.size()} {}
+        : first_(list.data()), last_(list.data() + list.size()) {}
 
     [[nodiscard]] constexpr const PropertyId* begin() const noexcept { return first_; }
     [[nodiscard]] constexpr const PropertyId* end() const noexcept { return last_; }

@@ -1,10 +1,11 @@
-// A static object that stands for one property.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyId.hpp>
 
 namespace corvane::workbench::bindings {
 
+/// A static object that stands for one property.
+///
 /// Names one property by its own address. Declare one static object per property:
 ///
 ///     static const PropertyKey kSpeed;

@@ -1,7 +1,8 @@
+#pragma once
+
 // Function objects that skills plug into property bindings: two that complete the text of a box
 // while it is typed, and one that proposes the next value of a list. They hold no state but the
 // offset, call nobody back and may be used from any thread.
-#pragma once
 
 #include <corvane/workbench/export.hpp>
 

@@ -1,5 +1,3 @@
-// A time span in the unit in which the user entered it, so that "250ms" is shown and written back
-// as "250ms".
 #pragma once
 
 #include <corvane/workbench/export.hpp>

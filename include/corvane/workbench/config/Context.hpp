@@ -1,8 +1,5 @@
 #pragma once
 
-// The load context: through it a skill hands over the keys that it reads from a configuration, each
-// with the reference that is to receive the result.
-
 #include <corvane/workbench/config/WithoutLocationTag.hpp>
 #include <corvane/workbench/export.hpp>
 
@@ -73,11 +70,11 @@ private:
 class CORVANE_WORKBENCH_EXPORT Context::ReferenceKey {
 public:
     /// Reads the value as a JSON string; the decoder's own error if it is none.
-    explicit ReferenceKey(corvane::utils::json::decoder::Value& value);
+    explicit ReferenceKey(utils::json::decoder::Value& value);
     /// Takes the name of a member, for keys that are written as member names.
-    explicit ReferenceKey(const corvane::utils::json::decoder::Name& name);
+    explicit ReferenceKey(const utils::json::decoder::Name& name);
     /// Takes a text that was read before. The location says where; it is not kept.
-    ReferenceKey(std::string&& text, const corvane::utils::json::decoder::Location& location);
+    ReferenceKey(std::string&& text, const utils::json::decoder::Location& location);
     /// Copies a text that comes from no configuration file.
     ReferenceKey(std::string_view text, WithoutLocationTag tag);
 

@@ -1,7 +1,5 @@
 #pragma once
 
-// Selects the constructor of a key that comes from no configuration file.
-
 namespace corvane::workbench::config {
 
 /// Selects the constructor of a key that comes from no configuration file. See

@@ -11,9 +11,9 @@ class Name;
 namespace corvane::workbench::config {
 
 /// Throws a std::runtime_error saying `unknown parameter "NAME"`. When the name carries its
-/// location in the file, the error is also a corvane::utils::json::decoder::Exception with that
+/// location in the file, the error is also a utils::json::decoder::Exception with that
 /// location.
 [[noreturn]] CORVANE_WORKBENCH_EXPORT void
-throwUnknownParameterError(const corvane::utils::json::decoder::Name& name);
+throwUnknownParameterError(const utils::json::decoder::Name& name);
 
 } // namespace corvane::workbench::config

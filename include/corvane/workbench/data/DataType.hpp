@@ -1,7 +1,5 @@
 #pragma once
 
-// The type of an attribute's value in the data model of the runtime.
-
 #include <cstdint>
 
 namespace corvane::workbench::data {

@@ -1,7 +1,5 @@
 #pragma once
 
-// The order in which names are shown to the user.
-
 #include <corvane/workbench/export.hpp>
 
 #include <compare>

@@ -1,4 +1,3 @@
-// A JSON array held in memory: values in order.
 #pragma once
 
 #include <corvane/utils/json/encoder/Document.hpp>

@@ -1,4 +1,3 @@
-// What the JSON document model tolerates while it is read.
 #pragma once
 
 namespace corvane::workbench::json {

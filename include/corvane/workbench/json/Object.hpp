@@ -1,5 +1,3 @@
-// A JSON object held in memory: members, each a name and a value, in the order in which they were
-// read or added.
 #pragma once
 
 #include <corvane/utils/core/function_ref.hpp>

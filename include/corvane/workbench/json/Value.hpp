@@ -1,4 +1,3 @@
-// Any JSON value held in memory, for configuration that is kept without knowing its meaning.
 #pragma once
 
 #include <corvane/utils/json/encoder/Document.hpp>

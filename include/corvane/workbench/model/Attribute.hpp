@@ -1,7 +1,5 @@
 #pragma once
 
-// Describes an attribute of an element: a named value that the element has at run time.
-
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/data/DataType.hpp>
 #include <corvane/workbench/export.hpp>
@@ -57,7 +55,7 @@ public:
 
     /// `name` is UTF-8; it and `ioDirections` are also those of the change event.
     Attribute(std::string&& name, Access access, data::DataType dataType,
-              corvane::utils::core::Flags<io::Direction> ioDirections) noexcept;
+              utils::core::Flags<io::Direction> ioDirections) noexcept;
 
     Attribute(const Attribute& other);
     Attribute(Attribute&& other) noexcept;
@@ -66,7 +64,7 @@ public:
     ~Attribute();
 
     [[nodiscard]] std::string_view name() const noexcept;
-    [[nodiscard]] corvane::utils::core::Flags<io::Direction> ioDirections() const noexcept;
+    [[nodiscard]] utils::core::Flags<io::Direction> ioDirections() const noexcept;
     [[nodiscard]] Access access() const noexcept;
     [[nodiscard]] const data::DataType& dataType() const noexcept;
 

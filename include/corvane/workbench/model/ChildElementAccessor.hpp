@@ -1,7 +1,5 @@
 #pragma once
 
-// Random access to the children of an element.
-
 #include <corvane/workbench/export.hpp>
 
 #include <compare>

@@ -1,7 +1,5 @@
 #pragma once
 
-// One element of the configuration tree, as skills and this library see it.
-
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/core/function_ref.hpp>
@@ -59,12 +57,12 @@ public:
     /// @{
 
     /// The name, in UTF-8, under which its parent knows it; valid until it is renamed.
-    [[nodiscard]] corvane::utils::string::BasicStringView<char> name() const;
+    [[nodiscard]] utils::string::BasicStringView<char> name() const;
 
     /// The key by which references name this element: the names on the way down to it.
     [[nodiscard]] std::string primaryKey() const;
 
-    [[nodiscard]] corvane::utils::core::Uuid uuid() const;
+    [[nodiscard]] utils::core::Uuid uuid() const;
 
     /// The type of the element as it is shown to the user.
     [[nodiscard]] std::wstring type() const;
@@ -78,7 +76,7 @@ public:
     /// Whether the element's category is one of `categories`; always true for a custom element,
     /// also when `categories` is empty. Throws std::out_of_range when the category of the element
     /// is no enumerator.
-    [[nodiscard]] bool checkCategory(corvane::utils::core::Flags<ElementCategory> categories) const;
+    [[nodiscard]] bool checkCategory(utils::core::Flags<ElementCategory> categories) const;
 
     /// Whether the element is a data point or a custom element. Throws as checkCategory does.
     [[nodiscard]] bool isDataPoint() const;
@@ -209,15 +207,15 @@ private:
     [[nodiscard]] const skill::Element* getSkillElement(std::nothrow_t) const;
 
     bool forEachAttributeInternal(
-        const corvane::utils::core::function_ref<bool(const Attribute&)>& callback) const;
+        const utils::core::function_ref<bool(const Attribute&)>& callback) const;
 
     /// The result tells of the attributes only: it is false when an event has stopped the walk.
-    bool forEachEventInternal(
-        const corvane::utils::core::function_ref<bool(const process::Event&)>& callback,
-        process::EventSearchOptions options) const;
+    bool
+    forEachEventInternal(const utils::core::function_ref<bool(const process::Event&)>& callback,
+                         process::EventSearchOptions options) const;
 
     bool forEachTaskInternal(
-        const corvane::utils::core::function_ref<bool(const process::Task&)>& callback) const;
+        const utils::core::function_ref<bool(const process::Task&)>& callback) const;
 
     template <class Visit, class Member>
     static bool stops(Visit& visit, const Member& member) {
@@ -235,9 +233,9 @@ public:
     virtual ~Element() = 0;
 
 private:
-    [[nodiscard]] virtual corvane::utils::string::BasicStringView<char> nameImpl() const = 0;
+    [[nodiscard]] virtual utils::string::BasicStringView<char> nameImpl() const = 0;
     [[nodiscard]] virtual std::string primaryKeyImpl() const = 0;
-    [[nodiscard]] virtual corvane::utils::core::Uuid uuidImpl() const = 0;
+    [[nodiscard]] virtual utils::core::Uuid uuidImpl() const = 0;
     [[nodiscard]] virtual std::wstring typeImpl() const = 0;
     [[nodiscard]] virtual ElementCategory categoryImpl() const = 0;
     [[nodiscard]] virtual bool isInvisibleRootImpl() const = 0;
@@ -249,12 +247,12 @@ private:
     // returns whether it was stopped. `forwardedFlag` comes from the options of the search; its
     // meaning is up to the implementation.
     virtual bool forEachAttributeImpl(
-        const corvane::utils::core::function_ref<bool(const Attribute&)>& callback) const = 0;
-    virtual bool forEachEventImpl(
-        const corvane::utils::core::function_ref<bool(const process::Event&)>& callback,
-        bool forwardedFlag) const = 0;
+        const utils::core::function_ref<bool(const Attribute&)>& callback) const = 0;
+    virtual bool
+    forEachEventImpl(const utils::core::function_ref<bool(const process::Event&)>& callback,
+                     bool forwardedFlag) const = 0;
     virtual bool forEachTaskImpl(
-        const corvane::utils::core::function_ref<bool(const process::Task&)>& callback) const = 0;
+        const utils::core::function_ref<bool(const process::Task&)>& callback) const = 0;
 
     [[nodiscard]] virtual ChildElementAccessor childElementsImpl() const = 0;
     [[nodiscard]] virtual const Element* childElementImpl(std::string_view name) const = 0;

@@ -1,11 +1,5 @@
 #pragma once
 
-// The kinds of element in a configuration, and their names.
-//
-// The numbers are fixed: they are bit positions in sets of categories. CustomElement is last on
-// purpose; an element of that category passes every category check and has every member that is
-// asked of it (see Element).
-
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/export.hpp>
 
@@ -16,6 +10,11 @@
 
 namespace corvane::workbench::model {
 
+/// The kinds of element in a configuration, and their names.
+///
+/// The numbers are fixed: they are bit positions in sets of categories. CustomElement is last on
+/// purpose; an element of that category passes every category check and has every member that is
+/// asked of it (see Element).
 enum class ElementCategory : std::int32_t {
     RootElement = 0,
     ElementGroup = 1,

@@ -1,7 +1,5 @@
 #pragma once
 
-// Describes an event of an element: something that happens there, to which others can react.
-
 #include <corvane/utils/core/Flags.hpp>
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/io/Direction.hpp>
@@ -23,7 +21,7 @@ public:
 
     /// `name` is UTF-8 and is the name by which reference keys name the event; `ioDirections` are
     /// the directions in which the event is relevant.
-    Event(std::string&& name, corvane::utils::core::Flags<io::Direction> ioDirections) noexcept;
+    Event(std::string&& name, utils::core::Flags<io::Direction> ioDirections) noexcept;
 
     Event(const Event& other);
     Event(Event&& other) noexcept;
@@ -36,13 +34,13 @@ public:
     /// A temporary event gives up its name.
     [[nodiscard]] std::string&& name() && noexcept;
 
-    [[nodiscard]] corvane::utils::core::Flags<io::Direction> ioDirections() const noexcept;
+    [[nodiscard]] utils::core::Flags<io::Direction> ioDirections() const noexcept;
 
     friend bool operator==(const Event&, const Event&) = default;
 
 private:
     std::string name_;
-    corvane::utils::core::Flags<io::Direction> ioDirections_;
+    utils::core::Flags<io::Direction> ioDirections_;
 };
 
 } // namespace corvane::workbench::process

@@ -1,7 +1,5 @@
 #pragma once
 
-// How the events of an element are enumerated and looked up.
-
 namespace corvane::workbench::process {
 
 /// How the events of an element are enumerated and looked up.

@@ -1,7 +1,5 @@
 #pragma once
 
-// Describes a task of an element: something that it can be made to do.
-
 #include <corvane/workbench/export.hpp>
 
 #include <string>

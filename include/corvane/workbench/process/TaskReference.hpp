@@ -1,7 +1,5 @@
 #pragma once
 
-// A live reference to a task of an element of the model, held by a skill in a property.
-
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 #include <corvane/workbench/process/Task.hpp>
@@ -45,9 +43,9 @@ public:
     /// The key as it is now.
     [[nodiscard]] std::string primaryKey() const;
     /// Writes the key as one JSON string.
-    void save(corvane::utils::json::encoder::Value& value) const;
-    void saveTo(corvane::utils::json::encoder::Array& array) const;
-    void saveTo(corvane::utils::json::encoder::Object& object, std::string_view name) const;
+    void save(utils::json::encoder::Value& value) const;
+    void saveTo(utils::json::encoder::Array& array) const;
+    void saveTo(utils::json::encoder::Object& object, std::string_view name) const;
 };
 
 /// A reference as plain data: never registered, freely copied, saved with its import prefix. It has
@@ -71,9 +69,9 @@ public:
     /// Whether the reference is not empty.
     explicit operator bool() const noexcept;
     /// Writes the key as one JSON string.
-    void save(corvane::utils::json::encoder::Value& value) const;
-    void saveTo(corvane::utils::json::encoder::Array& array) const;
-    void saveTo(corvane::utils::json::encoder::Object& object, std::string_view name) const;
+    void save(utils::json::encoder::Value& value) const;
+    void saveTo(utils::json::encoder::Array& array) const;
+    void saveTo(utils::json::encoder::Object& object, std::string_view name) const;
 
 private:
     explicit ImportReference(model::internal::ElementReferenceData&& data) noexcept;

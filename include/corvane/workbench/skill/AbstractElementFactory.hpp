@@ -1,7 +1,5 @@
 #pragma once
 
-// Creates the skill's half of elements; each element class has one.
-
 #include <corvane/workbench/export.hpp>
 
 #include <memory>

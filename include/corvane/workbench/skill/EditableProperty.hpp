@@ -1,8 +1,5 @@
 #pragma once
 
-// What a generic user interface needs to show and edit a property of an element or sub-element
-// whose class it does not know.
-
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/bindings/PropertyHandle.hpp>
 
@@ -49,8 +46,7 @@ struct EditableProperty {
     /// The texts to choose from, for Editor::Choice.
     std::vector<std::wstring> choices{};
     /// Visits the rows in their order, for Editor::SubElementList.
-    std::function<void(const corvane::utils::core::function_ref<void(SubElement&)>&)>
-        forEachSubElement{};
+    std::function<void(const utils::core::function_ref<void(SubElement&)>&)> forEachSubElement{};
     /// Inserts a default row before the given index (the row count: at the end), and publishes
     /// the property; or says why not. Empty: the list is fixed.
     std::function<tl::expected<void, std::wstring>(std::size_t)> insertSubElement{};

@@ -1,7 +1,5 @@
 #pragma once
 
-// The skill's half of an element of the configuration tree.
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/utils/string/BasicStringView.hpp>
@@ -68,8 +66,8 @@ public:
     /// The element's class. Needs a supervisor, like the three operations below.
     [[nodiscard]] const Class& elementClass() const;
     /// The element's name (UTF-8), valid until the element is renamed.
-    [[nodiscard]] corvane::utils::string::BasicStringView<char> name() const;
-    [[nodiscard]] corvane::utils::core::Uuid uuid() const;
+    [[nodiscard]] utils::string::BasicStringView<char> name() const;
+    [[nodiscard]] utils::core::Uuid uuid() const;
     /// The element's key from the root of the configuration.
     [[nodiscard]] std::string primaryKey() const;
 
@@ -89,32 +87,32 @@ private:
     /// Reads the element's settings from its JSON object; the members that the workbench reserves
     /// for itself do not appear. The base accepts only an empty object and throws through
     /// `config::throwUnknownParameterError` for the first member it meets.
-    virtual void load(corvane::utils::json::decoder::Object& object, config::Context& context);
+    virtual void load(utils::json::decoder::Object& object, config::Context& context);
     /// Writes the element's settings as members of its JSON object. The base writes nothing.
-    virtual void save(corvane::utils::json::encoder::Object& object) const;
+    virtual void save(utils::json::encoder::Object& object) const;
     /// Gives a newly added element its initial settings. The base does nothing.
     virtual void makeDefault();
 
     /// Calls the callback with each attribute that this element adds to those every element has,
     /// stops when a callback returns true, and returns whether one did. The base has none.
     virtual bool forEachAttribute(
-        const corvane::utils::core::function_ref<bool(const model::Attribute&)>& callback) const;
+        const utils::core::function_ref<bool(const model::Attribute&)>& callback) const;
     /// The same for events.
-    virtual bool forEachEvent(
-        const corvane::utils::core::function_ref<bool(const process::Event&)>& callback) const;
+    virtual bool
+    forEachEvent(const utils::core::function_ref<bool(const process::Event&)>& callback) const;
     /// The same for tasks.
-    virtual bool forEachTask(
-        const corvane::utils::core::function_ref<bool(const process::Task&)>& callback) const;
+    virtual bool
+    forEachTask(const utils::core::function_ref<bool(const process::Task&)>& callback) const;
 
 public:
     /// Calls the callback with each property that a user may see or edit, in the order of a form.
     /// The description is valid for the length of the call; copies of it as long as the element.
-    virtual void forEachEditableProperty(
-        corvane::utils::core::function_ref<void(const EditableProperty&)> callback) = 0;
+    virtual void
+    forEachEditableProperty(utils::core::function_ref<void(const EditableProperty&)> callback) = 0;
 
 private:
     /// The identity by which an import recognises this element; the base has none.
-    virtual std::optional<corvane::utils::core::Uuid> importId();
+    virtual std::optional<utils::core::Uuid> importId();
     /// Takes over settings from the element that an import replaces. The base does nothing.
     virtual void importMerge(const model::Element& other);
     /// Whether an import keeps the name that the element has here. The base says no.
@@ -136,7 +134,7 @@ public:
     /// The class's name in configuration files (UTF-8), unique among all skills.
     [[nodiscard]] virtual std::string_view id() const = 0;
     /// The class's identifier, unique among all skills and the same in every version.
-    [[nodiscard]] virtual corvane::utils::core::Uuid uuid() const = 0;
+    [[nodiscard]] virtual utils::core::Uuid uuid() const = 0;
     /// The class's name as shown to the user; also the type text of its elements.
     [[nodiscard]] virtual std::wstring displayName() const = 0;
     /// What elements of this class are for, in a sentence for the user.

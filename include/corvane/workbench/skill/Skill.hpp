@@ -1,8 +1,5 @@
 #pragma once
 
-// The base of a skill, the class object that describes it, and the process-wide list in which the
-// workbench finds every skill.
-
 #include <corvane/utils/memory/SafeGlobal.hpp>
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/skill/Element.hpp>
@@ -61,8 +58,7 @@ public:
     [[nodiscard]] static const std::forward_list<std::reference_wrapper<Class>>& allSkills();
 
 private:
-    static corvane::utils::memory::SafeGlobal<std::forward_list<std::reference_wrapper<Class>>>
-        _allSkills;
+    static utils::memory::SafeGlobal<std::forward_list<std::reference_wrapper<Class>>> _allSkills;
 };
 
 /// Receives the element classes of a skill; implemented by the workbench.

@@ -1,7 +1,5 @@
 #pragma once
 
-// The base of an item inside an element: the row of a list property, say.
-
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>
 #include <corvane/workbench/bindings/PropertyHandle.hpp>
@@ -35,8 +33,8 @@ public:
     [[nodiscard]] virtual bindings::PropertyId displayNamePropertyId() const;
     /// Calls the callback with each property that a user may see or edit, in the order of a form.
     /// The description is valid for the length of the call; copies of it as long as the item.
-    virtual void forEachEditableProperty(
-        corvane::utils::core::function_ref<void(const EditableProperty&)> callback) = 0;
+    virtual void
+    forEachEditableProperty(utils::core::function_ref<void(const EditableProperty&)> callback) = 0;
 
     /// The display name's property on this item.
     [[nodiscard]] bindings::PropertyHandle displayNameProperty();

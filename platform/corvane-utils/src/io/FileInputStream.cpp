@@ -1,12 +1,12 @@
 #include <corvane/utils/io/FileInputStream.hpp>
 
+#include "pathText.hpp"
+#include "systemPath.hpp"
+
 #include <algorithm>
 #include <cerrno>
 #include <ios>
 #include <utility>
-
-#include "pathText.hpp"
-#include "systemPath.hpp"
 
 namespace corvane::utils::io {
 

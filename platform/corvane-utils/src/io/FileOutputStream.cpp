@@ -1,12 +1,12 @@
 #include <corvane/utils/io/FileOutputStream.hpp>
 
+#include "pathText.hpp"
+#include "systemPath.hpp"
+
 #include <cerrno>
 #include <ios>
 #include <random>
 #include <utility>
-
-#include "pathText.hpp"
-#include "systemPath.hpp"
 
 namespace corvane::utils::io {
 

@@ -1,5 +1,6 @@
-// The form in which Windows takes paths of any length.
 #pragma once
+
+// The form in which Windows takes paths of any length.
 
 #include <string>
 #include <string_view>

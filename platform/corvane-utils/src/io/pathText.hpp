@@ -1,5 +1,6 @@
-// Paths in error messages.
 #pragma once
+
+// Paths in error messages.
 
 #include <cerrno>
 #include <filesystem>

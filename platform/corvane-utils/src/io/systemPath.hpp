@@ -1,5 +1,6 @@
-// Paths as they are handed to the system.
 #pragma once
+
+// Paths as they are handed to the system.
 
 #include <filesystem>
 

@@ -1,5 +1,6 @@
-// Eight bytes of a JSON text at once, as a number whose lowest byte is the first one.
 #pragma once
+
+// Eight bytes of a JSON text at once, as a number whose lowest byte is the first one.
 
 #include <bit>
 #include <cstddef>

@@ -1,10 +1,11 @@
-// The text of JSON strings, as far as it is the same when it is read and when it is written.
 #pragma once
+
+// The text of JSON strings, as far as it is the same when it is read and when it is written.
+
+#include "eightBytes.hpp"
 
 #include <cstddef>
 #include <cstdint>
-
-#include "eightBytes.hpp"
 
 namespace corvane::utils::json {
 

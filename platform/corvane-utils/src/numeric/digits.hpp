@@ -1,5 +1,6 @@
-// Decimal digits of numbers, eight or sixteen in one go.
 #pragma once
+
+// Decimal digits of numbers, eight or sixteen in one go.
 
 #include <bit>
 #include <cstddef>

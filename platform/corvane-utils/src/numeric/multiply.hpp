@@ -1,5 +1,6 @@
-// The product of two 64-bit numbers in all its 128 bits.
 #pragma once
+
+// The product of two 64-bit numbers in all its 128 bits.
 
 #include <cstdint>
 

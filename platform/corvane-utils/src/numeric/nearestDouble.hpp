@@ -1,18 +1,19 @@
+#pragma once
+
 // The double that is nearest to a decimal number, for the numbers that people write.
 //
 // The digits are multiplied, as integers, by the leading 64 bits of the power of five; the powers
 // of two only move the point. Where the bits that were cut off could change how the product is
 // rounded, such as halfway between two doubles, the arithmetic of doubles has the answer if it is
 // exact.
-#pragma once
+
+#include "multiply.hpp"
 
 #include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-
-#include "multiply.hpp"
 
 namespace corvane::utils::numeric {
 

@@ -1,3 +1,5 @@
+#pragma once
+
 // The shortest decimal number that reads back as a given double, for the magnitudes that
 // configurations are made of; faster there than the standard library, with the same result.
 //
@@ -8,7 +10,6 @@
 //
 // Below a power of two the interval ends at a quarter of a place. That does not matter here: those
 // that are not whole, 2^-9 to 2^-1, have so few digits that they are their own shortest decimal.
-#pragma once
 
 #include "multiply.hpp"
 

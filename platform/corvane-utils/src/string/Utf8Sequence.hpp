@@ -1,5 +1,3 @@
-// One step of reading UTF-8 from memory or writing it. Reading must divide malformed text just as
-// string::detail::Utf8Decoder does.
 #pragma once
 
 #include <cstddef>
@@ -7,6 +5,8 @@
 
 namespace corvane::utils::string {
 
+/// One step of reading UTF-8 from memory or writing it. Reading must divide malformed text just as
+/// string::detail::Utf8Decoder does.
 struct Utf8Sequence {
     /// U+FFFD when the bytes are malformed.
     char32_t character;

@@ -1,5 +1,6 @@
-// The two code units of UTF-16 that together stand for a character above U+FFFF.
 #pragma once
+
+// The two code units of UTF-16 that together stand for a character above U+FFFF.
 
 namespace corvane::utils::string {
 

@@ -1,12 +1,11 @@
 #include <corvane/utils/string/transcode.hpp>
 
-#include <cstdint>
-#include <cstring>
-
-#include <corvane/utils/string/detail/Utf16Encoder.hpp>
-
 #include "Utf8Sequence.hpp"
 #include "surrogates.hpp"
+#include <corvane/utils/string/detail/Utf16Encoder.hpp>
+
+#include <cstdint>
+#include <cstring>
 
 namespace corvane::utils::string {
 

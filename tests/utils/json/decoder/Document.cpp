@@ -2,7 +2,6 @@
 
 #include "utils/io/TemporaryFolder.hpp"
 #include "utils/json/decoder/ParsedText.hpp"
-
 #include <corvane/utils/io/FileInputStream.hpp>
 #include <corvane/utils/json/decoder/AllowLegacyMicrosecondsTag.hpp>
 

@@ -1,4 +1,5 @@
 #include <corvane/utils/json/decoder/Exception.hpp>
+
 #include <corvane/utils/json/decoder/detail/WrappedException.hpp>
 
 #include <gtest/gtest.h>

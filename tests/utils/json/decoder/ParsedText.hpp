@@ -1,4 +1,3 @@
-// A JSON text together with the document that was made of it.
 #pragma once
 
 #include <corvane/utils/io/MemoryInputStream.hpp>
@@ -18,6 +17,7 @@
 
 namespace corvane::tests {
 
+/// A JSON text together with the document that was made of it.
 class ParsedText {
 public:
     explicit ParsedText(std::string text)

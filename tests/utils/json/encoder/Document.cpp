@@ -1,7 +1,6 @@
 #include <corvane/utils/json/encoder/Document.hpp>
 
 #include "utils/json/encoder/TextStream.hpp"
-
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/string/BasicStaticString.hpp>

@@ -1,7 +1,6 @@
 // What the encoder writes, the decoder reads back.
 #include "utils/json/decoder/ParsedText.hpp"
 #include "utils/json/encoder/TextStream.hpp"
-
 #include <corvane/utils/json/encoder/Array.hpp>
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>

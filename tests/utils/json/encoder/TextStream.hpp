@@ -1,5 +1,3 @@
-// An output stream into a string, by default with a buffer so small that every text crosses its
-// end.
 #pragma once
 
 #include <corvane/utils/io/OutputStream.hpp>
@@ -9,6 +7,8 @@
 
 namespace corvane::tests {
 
+/// An output stream into a string, by default with a buffer so small that every text crosses its
+/// end.
 class TextStream : public utils::io::OutputStream<char> {
 public:
     explicit TextStream(std::size_t bufferSize = 7) : buffer_(bufferSize, '\0') {}

@@ -1,7 +1,5 @@
 #pragma once
 
-// The element classes that a workbench knows, by their names in configuration files.
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
@@ -41,7 +39,7 @@ private:
     std::vector<std::reference_wrapper<const skill::Element::Class>> all_;
     // Keyed by the classes' own ids, copied because a class may compute its id anew at each call.
     std::unordered_map<std::string, const skill::Element::Class*> byId_;
-    std::unordered_map<corvane::utils::core::Uuid, const skill::Element::Class*> byUuid_;
+    std::unordered_map<utils::core::Uuid, const skill::Element::Class*> byUuid_;
 };
 
 } // namespace corvane::workbench::host

@@ -1,8 +1,5 @@
 #pragma once
 
-// The workbench's half of one element of the tree: its name, identity and place, its children, and
-// the joint to the skill's half.
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/host/ElementProperties.hpp>
 #include <corvane/workbench/json/Value.hpp>
@@ -38,7 +35,7 @@ public:
     /// An element outside any tree, joined to its skill's half.
     ElementNode(const skill::Element::Class& elementClass,
                 std::unique_ptr<skill::Element> skillElement, std::string name,
-                const corvane::utils::core::Uuid& uuid);
+                const utils::core::Uuid& uuid);
     ElementNode(const ElementNode&) = delete;
     ElementNode& operator=(const ElementNode&) = delete;
     ~ElementNode() override;
@@ -76,9 +73,9 @@ private:
     friend class ElementTree;
 
     // model::Element
-    [[nodiscard]] corvane::utils::string::BasicStringView<char> nameImpl() const override;
+    [[nodiscard]] utils::string::BasicStringView<char> nameImpl() const override;
     [[nodiscard]] std::string primaryKeyImpl() const override;
-    [[nodiscard]] corvane::utils::core::Uuid uuidImpl() const override;
+    [[nodiscard]] utils::core::Uuid uuidImpl() const override;
     [[nodiscard]] std::wstring typeImpl() const override;
     [[nodiscard]] model::ElementCategory categoryImpl() const override;
     [[nodiscard]] bool isInvisibleRootImpl() const override;
@@ -86,13 +83,11 @@ private:
     findAncestorImpl(const skill::Element::Class& elementClass) const override;
     [[nodiscard]] bool isDescendentOfImpl(const model::Element& other) const override;
     bool forEachAttributeImpl(
-        const corvane::utils::core::function_ref<bool(const model::Attribute&)>& callback)
-        const override;
-    bool forEachEventImpl(
-        const corvane::utils::core::function_ref<bool(const process::Event&)>& callback,
-        bool forwardedFlag) const override;
-    bool forEachTaskImpl(const corvane::utils::core::function_ref<bool(const process::Task&)>&
-                             callback) const override;
+        const utils::core::function_ref<bool(const model::Attribute&)>& callback) const override;
+    bool forEachEventImpl(const utils::core::function_ref<bool(const process::Event&)>& callback,
+                          bool forwardedFlag) const override;
+    bool forEachTaskImpl(
+        const utils::core::function_ref<bool(const process::Task&)>& callback) const override;
     [[nodiscard]] model::ChildElementAccessor childElementsImpl() const override;
     [[nodiscard]] const model::Element* childElementImpl(std::string_view name) const override;
     [[nodiscard]] const model::Element* parentElementImpl() const override;
@@ -121,7 +116,7 @@ private:
     const skill::Element::Class* elementClass_ = nullptr;
     ElementNode* parent_ = nullptr;
     std::string name_;
-    corvane::utils::core::Uuid uuid_;
+    utils::core::Uuid uuid_;
     std::uint64_t line_ = 0;
     std::uint64_t column_ = 0;
     std::optional<json::Value> accessControl_;

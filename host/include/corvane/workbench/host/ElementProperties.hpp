@@ -1,8 +1,5 @@
 #pragma once
 
-// Carries the error counts of an element and of everything below it up to the root: the container
-// around the property controller of the skill's half and around the containers of the children.
-
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 
 #include <cstdint>
@@ -11,6 +8,9 @@ namespace corvane::workbench::host {
 
 class ElementNode;
 
+/// Carries the error counts of an element and of everything below it up to the root: the container
+/// around the property controller of the skill's half and around the containers of the children.
+///
 /// Part of an ElementNode; does not outlive it.
 class ElementProperties final : public bindings::PropertyContainer {
 public:
@@ -26,11 +26,11 @@ public:
 
 private:
     void forEachSubPropertyContainer(
-        const corvane::utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,
+        const utils::core::function_ref<void(bindings::PropertyContainer&)>& callback,
         bool includeInvisible) override;
-    void forEachLocalCrossReference(const corvane::utils::core::function_ref<
-                                        void(bindings::CrossReferenceController&)>& callback,
-                                    bool includeInvisible) override;
+    void forEachLocalCrossReference(
+        const utils::core::function_ref<void(bindings::CrossReferenceController&)>& callback,
+        bool includeInvisible) override;
     [[nodiscard]] std::uint64_t localPropertyErrorCount() const override;
     void propertyNotificationRaised(const bindings::PropertyId& property) override;
 

@@ -1,7 +1,5 @@
 #pragma once
 
-// How a configuration is loaded.
-
 #include <corvane/workbench/host/LoadProgress.hpp>
 
 #include <functional>

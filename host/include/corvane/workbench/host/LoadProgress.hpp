@@ -1,7 +1,5 @@
 #pragma once
 
-// How far the loading of a configuration has come.
-
 #include <cstdint>
 
 namespace corvane::workbench::host {

@@ -1,7 +1,5 @@
 #pragma once
 
-// What came of loading a configuration.
-
 #include <corvane/workbench/host/Problem.hpp>
 
 #include <vector>

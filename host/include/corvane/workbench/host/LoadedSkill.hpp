@@ -1,7 +1,5 @@
 #pragma once
 
-// A skill that a workbench uses: its class, its instance, and where it came from.
-
 #include <corvane/workbench/skill/Element.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
 

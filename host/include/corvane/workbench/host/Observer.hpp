@@ -1,8 +1,5 @@
 #pragma once
 
-// Is told what a workbench did to its tree, beside the notifications that the properties themselves
-// publish.
-
 #include <string_view>
 
 namespace corvane::workbench::model::internal {

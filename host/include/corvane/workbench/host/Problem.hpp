@@ -1,8 +1,5 @@
 #pragma once
 
-// Something that is wrong with a configuration, a skill library or a request, said in one sentence
-// and located where it can be.
-
 #include <tl/expected.hpp>
 
 #include <cstdint>

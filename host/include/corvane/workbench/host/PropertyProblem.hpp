@@ -1,7 +1,5 @@
 #pragma once
 
-// A visible property whose value is not valid.
-
 #include <corvane/workbench/bindings/PropertyHandle.hpp>
 
 #include <string>

@@ -1,7 +1,5 @@
 #pragma once
 
-// One reference to an element, seen from the element.
-
 namespace corvane::workbench::model::internal {
 class BasicElementReference;
 }

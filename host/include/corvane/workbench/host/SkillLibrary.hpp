@@ -1,7 +1,5 @@
 #pragma once
 
-// A shared library that holds skills.
-
 #include <corvane/workbench/host/Problem.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
 

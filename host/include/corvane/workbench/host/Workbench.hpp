@@ -1,8 +1,5 @@
 #pragma once
 
-// A headless workbench: it loads skills and configurations, owns the tree of elements, edits it and
-// saves it, and keeps every reference between the elements pointing where it should.
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/host/ElementClassRegistry.hpp>
@@ -77,7 +74,7 @@ public:
     LoadResult loadConfiguration(const std::filesystem::path& file,
                                  const LoadOptions& options = {});
     /// The same from a stream; `file` is what the problems name.
-    LoadResult loadConfiguration(corvane::utils::io::InputStream<char>& stream,
+    LoadResult loadConfiguration(utils::io::InputStream<char>& stream,
                                  const std::filesystem::path& file,
                                  const LoadOptions& options = {});
     /// Writes the configuration as indented JSON. The file is replaced when all is written, and
@@ -85,7 +82,7 @@ public:
     /// that is reserved or comes twice, or settings that are nested too deeply.
     Result<void> saveConfiguration(const std::filesystem::path& file) const;
     /// The same to a stream, which is flushed but not closed.
-    Result<void> saveConfiguration(corvane::utils::io::OutputStream<char>& stream) const;
+    Result<void> saveConfiguration(utils::io::OutputStream<char>& stream) const;
 
     /// @}
     /// @name The tree
@@ -95,14 +92,14 @@ public:
     [[nodiscard]] const ElementNode& root() const noexcept;
     /// The element of that primary key, or null.
     [[nodiscard]] ElementNode* findElement(std::string_view key) const;
-    [[nodiscard]] ElementNode* findElement(const corvane::utils::core::Uuid& uuid) const;
+    [[nodiscard]] ElementNode* findElement(const utils::core::Uuid& uuid) const;
     /// How many elements there are, without the root.
     [[nodiscard]] std::size_t elementCount() const noexcept;
     /// Calls the callback with each invalid visible property at or below the element, in the order
     /// of the tree. Configures the elements.
-    void forEachPropertyProblem(
-        const ElementNode& top,
-        corvane::utils::core::function_ref<void(const PropertyProblem&)> callback) const;
+    void
+    forEachPropertyProblem(const ElementNode& top,
+                           utils::core::function_ref<void(const PropertyProblem&)> callback) const;
 
     /// @}
     /// @name Edits

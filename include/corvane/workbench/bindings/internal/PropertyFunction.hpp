@@ -1,4 +1,3 @@
-// A property's state or visibility function, safe to replace while it runs.
 #pragma once
 
 #include <cstddef>
@@ -8,6 +7,8 @@
 
 namespace corvane::workbench::bindings::internal {
 
+/// A property's state or visibility function, safe to replace while it runs.
+///
 /// A std::function, possibly empty. A function that is replaced while it runs is neither destroyed
 /// nor moved before its outermost call has ended; the replacement serves the calls after that.
 template <class Result>
@@ -18,8 +19,8 @@ public:
     PropertyFunction() = default;
     /// Copies what later calls would use.
     PropertyFunction(const PropertyFunction& other)
-        : function_{other.replacement_ ? *other.replacement_ : other.function_} {}
-    PropertyFunction(PropertyFunction&& other) noexcept : function_{std::move(other.function_)} {
+        : function_(other.replacement_ ? *other.replacement_ : other.function_) {}
+    PropertyFunction(PropertyFunction&& other) noexcept : function_(std::move(other.function_)) {
         other.function_ = nullptr;
     }
     PropertyFunction& operator=(const PropertyFunction& other) {
@@ -54,7 +55,7 @@ public:
 private:
     class Call {
     public:
-        explicit Call(PropertyFunction& owner) noexcept : owner_{owner} { ++owner_.calls_; }
+        explicit Call(PropertyFunction& owner) noexcept : owner_(owner) { ++owner_.calls_; }
         Call(const Call&) = delete;
         Call& operator=(const Call&) = delete;
         ~Call() {

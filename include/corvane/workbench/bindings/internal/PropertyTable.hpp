@@ -1,4 +1,3 @@
-// The properties of one controller, safe to change while they are being walked and published.
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyId.hpp>
@@ -10,6 +9,8 @@
 
 namespace corvane::workbench::bindings::internal {
 
+/// The properties of one controller, safe to change while they are being walked and published.
+///
 /// A hash map from PropertyId to Data that is walked in the order of insertion. Entries never move.
 /// Whoever looks an entry up gets a pin, and while a pin exists the entry does too: one that is
 /// removed meanwhile can no longer be found nor is it walked to, but lives until its last pin is
@@ -25,7 +26,7 @@ public:
     public:
         Pin() noexcept = default;
         Pin(Pin&& other) noexcept
-            : table_{other.table_}, entry_{std::exchange(other.entry_, nullptr)} {}
+            : table_(other.table_), entry_(std::exchange(other.entry_, nullptr)) {}
         Pin& operator=(Pin&& other) noexcept {
             Pin taken(std::move(other));
             std::swap(table_, taken.table_);
@@ -44,7 +45,7 @@ public:
 
     private:
         friend class PropertyTable;
-        Pin(PropertyTable& table, Entry* entry) noexcept : table_{&table}, entry_{entry} {
+        Pin(PropertyTable& table, Entry* entry) noexcept : table_(&table), entry_(entry) {
             if (entry_ != nullptr) {
                 ++entry_->pins;
             }
@@ -107,7 +108,7 @@ public:
 
 private:
     struct Entry {
-        explicit Entry(const PropertyId& name) : id{name} {}
+        explicit Entry(const PropertyId& name) : id(name) {}
 
         PropertyId id;
         Data data{};

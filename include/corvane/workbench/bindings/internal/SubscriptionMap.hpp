@@ -1,4 +1,3 @@
-// The subscribers of one property or container, safe to change while they are being called.
 #pragma once
 
 #include <cstddef>
@@ -7,6 +6,8 @@
 
 namespace corvane::workbench::bindings::internal {
 
+/// The subscribers of one property or container, safe to change while they are being called.
+///
 /// An ordered map from subscription id to callbacks. While forEach runs, anything may be inserted
 /// and erased: the next subscriber is the one with the smallest id greater than the current one's
 /// after its callback has returned, and callbacks that were erased are kept where they are until
@@ -17,9 +18,9 @@ class SubscriptionMap {
 public:
     SubscriptionMap() = default;
     /// Copies the subscribers, not the walks that are running over them.
-    SubscriptionMap(const SubscriptionMap& other) : live_{other.live_} {}
+    SubscriptionMap(const SubscriptionMap& other) : live_(other.live_) {}
     /// Leaves the source without subscribers.
-    SubscriptionMap(SubscriptionMap&& other) noexcept : live_{std::move(other.live_)} {
+    SubscriptionMap(SubscriptionMap&& other) noexcept : live_(std::move(other.live_)) {
         other.live_.clear();
     }
     SubscriptionMap& operator=(const SubscriptionMap& other) {
@@ -74,7 +75,7 @@ private:
 
     class Walk {
     public:
-        explicit Walk(const SubscriptionMap& map) noexcept : map_{map} { ++map_.walks_; }
+        explicit Walk(const SubscriptionMap& map) noexcept : map_(map) { ++map_.walks_; }
         Walk(const Walk&) = delete;
         Walk& operator=(const Walk&) = delete;
         ~Walk() {

@@ -1,5 +1,3 @@
-// A growing sequence that takes one pointer where it stands, so that the nested values of a
-// document stay small.
 #pragma once
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Collects what is written in a string that it owns.
 #pragma once
 
 #include <corvane/utils/io/OutputStream.hpp>

@@ -1,7 +1,5 @@
 #pragma once
 
-// The collection of an element's children, as the workbench keeps it.
-
 #include <corvane/workbench/export.hpp>
 
 #include <cstddef>

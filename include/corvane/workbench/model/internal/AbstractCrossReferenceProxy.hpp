@@ -1,8 +1,5 @@
 #pragma once
 
-// What the workbench keeps for a referenced element: it tells references where they point and knows
-// every reference that is registered with it.
-
 #include <corvane/workbench/export.hpp>
 
 #include <tl/expected.hpp>
@@ -60,11 +57,11 @@ public:
     [[nodiscard]] virtual std::string primaryKey() const = 0;
     /// Writes the key of a reference as one JSON string: the element's key, the suffix below it,
     /// and the member name.
-    virtual void save(corvane::utils::json::encoder::Value& value, std::string_view suffix,
+    virtual void save(utils::json::encoder::Value& value, std::string_view suffix,
                       std::optional<std::string_view> memberName) const = 0;
 
     /// Writes prefix, key and, behind a ".", the member name as one JSON string.
-    static void writeKey(corvane::utils::json::encoder::Value& value, std::string_view prefix,
+    static void writeKey(utils::json::encoder::Value& value, std::string_view prefix,
                          std::string_view key, std::optional<std::string_view> memberName);
 };
 

@@ -1,8 +1,5 @@
 #pragma once
 
-// A live reference: it is registered with its proxy from construction or assignment until it ends,
-// and the registration follows it when it moves.
-
 #include <corvane/workbench/bindings/CrossReferenceController.hpp>
 #include <corvane/workbench/bindings/PropertyId.hpp>
 #include <corvane/workbench/export.hpp>

@@ -1,8 +1,5 @@
 #pragma once
 
-// The door to the private operations of model::Element, for the workbench and for this library; not
-// for skills.
-
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/workbench/model/Element.hpp>
 
@@ -37,21 +34,19 @@ public:
 
     static bool
     forEachAttribute(const Element& element,
-                     const corvane::utils::core::function_ref<bool(const Attribute&)>& callback) {
+                     const utils::core::function_ref<bool(const Attribute&)>& callback) {
         return element.forEachAttributeInternal(callback);
     }
 
     /// False also when an event, and not the change event of an attribute, has stopped the walk.
-    static bool
-    forEachEvent(const Element& element,
-                 const corvane::utils::core::function_ref<bool(const process::Event&)>& callback,
-                 process::EventSearchOptions options) {
+    static bool forEachEvent(const Element& element,
+                             const utils::core::function_ref<bool(const process::Event&)>& callback,
+                             process::EventSearchOptions options) {
         return element.forEachEventInternal(callback, options);
     }
 
-    static bool
-    forEachTask(const Element& element,
-                const corvane::utils::core::function_ref<bool(const process::Task&)>& callback) {
+    static bool forEachTask(const Element& element,
+                            const utils::core::function_ref<bool(const process::Task&)>& callback) {
         return element.forEachTaskInternal(callback);
     }
 };

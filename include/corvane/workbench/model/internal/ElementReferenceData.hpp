@@ -1,8 +1,5 @@
 #pragma once
 
-// Describes a reference to an element, or to an attribute, event or task of an element: the deepest
-// part of its key that exists, as a proxy, and the rest as text.
-
 #include <corvane/workbench/export.hpp>
 
 #include <tl/expected.hpp>
@@ -96,9 +93,9 @@ public:
     /// The key as it is now, without an import prefix; empty without a proxy.
     [[nodiscard]] std::string primaryKey() const;
     /// Writes the key as one JSON string; an empty string for an empty reference.
-    void save(corvane::utils::json::encoder::Value& value) const;
-    void saveTo(corvane::utils::json::encoder::Array& array) const;
-    void saveTo(corvane::utils::json::encoder::Object& object, std::string_view name) const;
+    void save(utils::json::encoder::Value& value) const;
+    void saveTo(utils::json::encoder::Array& array) const;
+    void saveTo(utils::json::encoder::Object& object, std::string_view name) const;
 
 private:
     class ImportReferenceProxy;

@@ -1,7 +1,5 @@
 #pragma once
 
-// Joins the skill's half of an element to the workbench's half.
-
 #include <corvane/workbench/export.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 

@@ -1,7 +1,5 @@
 #pragma once
 
-// The workbench's one door to the private operations of skill elements.
-
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
@@ -22,32 +20,31 @@ public:
         element.supervisor_ = &supervisor;
     }
 
-    static void load(Element& element, corvane::utils::json::decoder::Object& object,
+    static void load(Element& element, utils::json::decoder::Object& object,
                      config::Context& context) {
         element.load(object, context);
     }
-    static void save(const Element& element, corvane::utils::json::encoder::Object& object) {
+    static void save(const Element& element, utils::json::encoder::Object& object) {
         element.save(object);
     }
     static void makeDefault(Element& element) { element.makeDefault(); }
 
-    static bool forEachAttribute(
-        const Element& element,
-        const corvane::utils::core::function_ref<bool(const model::Attribute&)>& callback) {
+    static bool
+    forEachAttribute(const Element& element,
+                     const utils::core::function_ref<bool(const model::Attribute&)>& callback) {
         return element.forEachAttribute(callback);
     }
     static bool
     forEachEvent(const Element& element,
-                 const corvane::utils::core::function_ref<bool(const process::Event&)>& callback) {
+                 const utils::core::function_ref<bool(const process::Event&)>& callback) {
         return element.forEachEvent(callback);
     }
-    static bool
-    forEachTask(const Element& element,
-                const corvane::utils::core::function_ref<bool(const process::Task&)>& callback) {
+    static bool forEachTask(const Element& element,
+                            const utils::core::function_ref<bool(const process::Task&)>& callback) {
         return element.forEachTask(callback);
     }
 
-    [[nodiscard]] static std::optional<corvane::utils::core::Uuid> importId(Element& element) {
+    [[nodiscard]] static std::optional<utils::core::Uuid> importId(Element& element) {
         return element.importId();
     }
     static void importMerge(Element& element, const model::Element& other) {

@@ -1,13 +1,5 @@
 #include "Scanner.hpp"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
-#include <limits>
-#include <memory>
-#include <string>
-#include <utility>
-
 #include "../../string/Utf8Sequence.hpp"
 #include "../../string/surrogates.hpp"
 #include "../eightBytes.hpp"
@@ -15,6 +7,14 @@
 #include "blanks.hpp"
 #include "scanNumber.hpp"
 #include "syntaxError.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+#include <memory>
+#include <string>
+#include <utility>
 
 namespace corvane::utils::json::decoder::detail {
 

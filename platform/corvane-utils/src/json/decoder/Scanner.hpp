@@ -1,16 +1,17 @@
-// From a JSON text (RFC 8259) to the tokens that the pull classes read.
 #pragma once
+
+#include <corvane/utils/json/decoder/Document.hpp>
+#include <corvane/utils/json/decoder/detail/Tape.hpp>
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
 
-#include <corvane/utils/json/decoder/Document.hpp>
-#include <corvane/utils/json/decoder/detail/Tape.hpp>
-
 namespace corvane::utils::json::decoder::detail {
 
+/// From a JSON text (RFC 8259) to the tokens that the pull classes read.
+///
 /// Goes once over the text, without recursion.
 class Scanner {
 public:

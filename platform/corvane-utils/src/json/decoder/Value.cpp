@@ -1,13 +1,13 @@
 #include <corvane/utils/json/decoder/Value.hpp>
 
+#include <corvane/utils/json/decoder/detail/WrappedException.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
 #include <string>
 #include <utility>
-
-#include <corvane/utils/json/decoder/detail/WrappedException.hpp>
 
 namespace corvane::utils::json::decoder {
 

@@ -1,5 +1,8 @@
 #include "scanNumber.hpp"
 
+#include "../../numeric/nearestDouble.hpp"
+#include "../eightBytes.hpp"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -8,9 +11,6 @@
 #include <limits>
 #include <optional>
 #include <system_error>
-
-#include "../../numeric/nearestDouble.hpp"
-#include "../eightBytes.hpp"
 
 namespace corvane::utils::json::decoder::detail {
 

@@ -1,9 +1,10 @@
-// A number at a place of a JSON text.
 #pragma once
 
-#include <cstdint>
+// A number at a place of a JSON text.
 
 #include <corvane/utils/json/decoder/detail/Tape.hpp>
+
+#include <cstdint>
 
 namespace corvane::utils::json::decoder::detail {
 

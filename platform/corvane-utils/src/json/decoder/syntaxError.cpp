@@ -1,11 +1,10 @@
 #include "syntaxError.hpp"
 
-#include <cstdint>
-#include <stdexcept>
-
+#include "../../string/Utf8Sequence.hpp"
 #include <corvane/utils/json/decoder/detail/WrappedException.hpp>
 
-#include "../../string/Utf8Sequence.hpp"
+#include <cstdint>
+#include <stdexcept>
 
 namespace corvane::utils::json::decoder::detail {
 

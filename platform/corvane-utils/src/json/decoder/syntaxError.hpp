@@ -1,11 +1,12 @@
-// What the decoder says about a text that is no JSON.
 #pragma once
+
+// What the decoder says about a text that is no JSON.
+
+#include <corvane/utils/json/decoder/detail/Tape.hpp>
 
 #include <cstddef>
 #include <string>
 #include <string_view>
-
-#include <corvane/utils/json/decoder/detail/Tape.hpp>
 
 namespace corvane::utils::json::decoder::detail {
 

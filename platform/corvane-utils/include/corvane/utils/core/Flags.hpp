@@ -1,5 +1,3 @@
-// A set of enumerators kept as one bit each: bit n stands for the enumerator with value n.
-// A plain value of 32 bits; no thread rules beyond those of an integer.
 #pragma once
 
 #include <cstddef>
@@ -16,6 +14,8 @@ inline constexpr std::size_t kFlagCount = 32;
 
 template <class E>
     requires std::is_enum_v<E>
+/// A set of enumerators kept as one bit each: bit n stands for the enumerator with value n.
+/// A plain value of 32 bits; no thread rules beyond those of an integer.
 class Flags {
 public:
     static_assert(kFlagCount<E> <= 32);

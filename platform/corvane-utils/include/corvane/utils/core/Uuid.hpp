@@ -1,6 +1,6 @@
-// A universally unique identifier of 16 bytes in network order. A plain value; the default is
-// the nil identifier.
 #pragma once
+
+#include <corvane/utils/export.hpp>
 
 #include <array>
 #include <compare>
@@ -11,10 +11,10 @@
 #include <string>
 #include <string_view>
 
-#include <corvane/utils/export.hpp>
-
 namespace corvane::utils::core {
 
+/// A universally unique identifier of 16 bytes in network order. A plain value; the default is
+/// the nil identifier.
 class CORVANE_UTILS_EXPORT Uuid {
 public:
     using Bytes = std::array<std::uint8_t, 16>;

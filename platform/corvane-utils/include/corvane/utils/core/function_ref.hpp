@@ -1,7 +1,8 @@
+#pragma once
+
 // A reference to something callable, with the meaning of C++26's std::function_ref (without its
 // constant-argument constructors). It neither copies nor owns the callable: pass it down the
 // stack only. It is never null. Calling is as thread-safe as the callable.
-#pragma once
 
 #include <functional>
 #include <memory>

@@ -1,5 +1,7 @@
-// Reads a file, in big blocks, byte for byte.
 #pragma once
+
+#include <corvane/utils/export.hpp>
+#include <corvane/utils/io/InputStream.hpp>
 
 #include <cstddef>
 #include <filesystem>
@@ -8,11 +10,9 @@
 #include <string_view>
 #include <vector>
 
-#include <corvane/utils/export.hpp>
-#include <corvane/utils/io/InputStream.hpp>
-
 namespace corvane::utils::io {
 
+/// Reads a file, in big blocks, byte for byte.
 class CORVANE_UTILS_EXPORT FileInputStream final : public InputStream<char> {
 public:
     /// Opens the file.

@@ -1,7 +1,7 @@
-// Writes a file all or nothing: the text goes to a temporary file beside the target, which takes
-// the target's place when the stream is closed. Until then, and when the stream is destroyed
-// without having been closed, the target is as it was.
 #pragma once
+
+#include <corvane/utils/export.hpp>
+#include <corvane/utils/io/OutputStream.hpp>
 
 #include <filesystem>
 #include <fstream>
@@ -9,11 +9,11 @@
 #include <string_view>
 #include <vector>
 
-#include <corvane/utils/export.hpp>
-#include <corvane/utils/io/OutputStream.hpp>
-
 namespace corvane::utils::io {
 
+/// Writes a file all or nothing: the text goes to a temporary file beside the target, which takes
+/// the target's place when the stream is closed. Until then, and when the stream is destroyed
+/// without having been closed, the target is as it was.
 class CORVANE_UTILS_EXPORT FileOutputStream final : public OutputStream<char> {
 public:
     /// Makes the temporary file. A symbolic link is followed: the file that it names is replaced,

@@ -1,5 +1,3 @@
-// A source of characters with a buffer. A stream is read by one thread at a time. Reading errors
-// are exceptions (std::system_error or std::runtime_error) whose text names the source.
 #pragma once
 
 #include <algorithm>
@@ -10,6 +8,8 @@
 
 namespace corvane::utils::io {
 
+/// A source of characters with a buffer. A stream is read by one thread at a time. Reading errors
+/// are exceptions (std::system_error or std::runtime_error) whose text names the source.
 template <class Char>
 class InputStream {
 public:

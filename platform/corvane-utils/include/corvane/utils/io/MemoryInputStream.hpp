@@ -1,14 +1,14 @@
-// Reads a text that is in memory. The text is not copied: it must outlive the stream and every
-// view that readRest() gave.
 #pragma once
+
+#include <corvane/utils/io/InputStream.hpp>
 
 #include <string>
 #include <string_view>
 
-#include <corvane/utils/io/InputStream.hpp>
-
 namespace corvane::utils::io {
 
+/// Reads a text that is in memory. The text is not copied: it must outlive the stream and every
+/// view that readRest() gave.
 template <class Char>
 class MemoryInputStream final : public InputStream<Char> {
 public:

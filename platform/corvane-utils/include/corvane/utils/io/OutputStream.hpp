@@ -1,8 +1,3 @@
-// A sink of characters with a buffer. A stream is written by one thread at a time. Writing errors
-// are exceptions (std::system_error or std::runtime_error) whose text names the sink.
-//
-// A derived stream owns the buffer and hands it over with setBuffer(); the buffer may be the sink
-// itself, such as a string that grows.
 #pragma once
 
 #include <algorithm>
@@ -12,6 +7,11 @@
 
 namespace corvane::utils::io {
 
+/// A sink of characters with a buffer. A stream is written by one thread at a time. Writing errors
+/// are exceptions (std::system_error or std::runtime_error) whose text names the sink.
+///
+/// A derived stream owns the buffer and hands it over with setBuffer(); the buffer may be the sink
+/// itself, such as a string that grows.
 template <class Char>
 class OutputStream {
 public:

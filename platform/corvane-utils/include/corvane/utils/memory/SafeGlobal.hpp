@@ -1,17 +1,17 @@
-// A global object that is constructed on first use, however early that is, and destroyed at
-// process exit. Declare it as a static object: it is constant-initialised, so no order of static
-// initialisation matters. The library that holds it must stay loaded until the process exits.
-// First use is thread-safe; what happens to the object afterwards is its own affair.
 #pragma once
+
+#include <corvane/utils/memory/detail/ExitList.hpp>
 
 #include <atomic>
 #include <cstddef>
 #include <new>
 
-#include <corvane/utils/memory/detail/ExitList.hpp>
-
 namespace corvane::utils::memory {
 
+/// A global object that is constructed on first use, however early that is, and destroyed at
+/// process exit. Declare it as a static object: it is constant-initialised, so no order of static
+/// initialisation matters. The library that holds it must stay loaded until the process exits.
+/// First use is thread-safe; what happens to the object afterwards is its own affair.
 template <class T>
 class SafeGlobal {
 public:

@@ -1,10 +1,11 @@
-// Numbers as text, the same on every platform and in every locale.
 #pragma once
 
-#include <cstdint>
+// Numbers as text, the same on every platform and in every locale.
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/string/BasicStaticString.hpp>
+
+#include <cstdint>
 
 namespace corvane::utils::numeric {
 

@@ -1,12 +1,13 @@
-// Text as numbers, the same on every platform and in every locale.
 #pragma once
+
+// Text as numbers, the same on every platform and in every locale.
+
+#include <corvane/utils/export.hpp>
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
-
-#include <corvane/utils/export.hpp>
 
 namespace corvane::utils::numeric {
 

@@ -1,12 +1,11 @@
-// A text with room for Capacity characters inside the object: it never allocates. A plain value.
 #pragma once
+
+#include <corvane/utils/export.hpp>
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
-
-#include <corvane/utils/export.hpp>
 
 namespace corvane::utils::string {
 
@@ -19,6 +18,8 @@ namespace detail {
 
 } // namespace detail
 
+/// A text with room for Capacity characters inside the object: it never allocates. A plain value.
+///
 /// Every operation that would make the text longer than its capacity throws std::length_error
 /// and leaves the text as it was.
 template <class Char, std::size_t Capacity>

@@ -1,10 +1,11 @@
-// Whole texts from UTF-8 to UTF-16 and back. Wide text holds UTF-16 code units on every platform.
 #pragma once
+
+// Whole texts from UTF-8 to UTF-16 and back. Wide text holds UTF-16 code units on every platform.
+
+#include <corvane/utils/export.hpp>
 
 #include <string>
 #include <string_view>
-
-#include <corvane/utils/export.hpp>
 
 namespace corvane::utils::string {
 

@@ -1,8 +1,8 @@
 #include <corvane/utils/json/encoder/detail/Writer.hpp>
 
-#include <stdexcept>
-
 #include "quote.hpp"
+
+#include <stdexcept>
 
 namespace corvane::utils::json::encoder::detail {
 

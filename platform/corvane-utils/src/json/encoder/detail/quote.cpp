@@ -1,9 +1,9 @@
 #include "quote.hpp"
 
-#include <cstddef>
-
 #include "../../../string/Utf8Sequence.hpp"
 #include "../../plainText.hpp"
+
+#include <cstddef>
 
 namespace corvane::utils::json::encoder::detail {
 

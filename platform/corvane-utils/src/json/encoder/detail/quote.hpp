@@ -1,13 +1,13 @@
-// Text as strings of JSON.
 #pragma once
+
+// Text as strings of JSON.
+
+#include "../../plainText.hpp"
+#include <corvane/utils/io/OutputStream.hpp>
 
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-
-#include <corvane/utils/io/OutputStream.hpp>
-
-#include "../../plainText.hpp"
 
 namespace corvane::utils::json::encoder::detail {
 

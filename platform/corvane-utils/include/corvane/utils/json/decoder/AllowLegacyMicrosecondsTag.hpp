@@ -1,8 +1,8 @@
-// Asks a loading operation to accept the older form of a time span, a count of microseconds.
 #pragma once
 
 namespace corvane::utils::json::decoder {
 
+/// Asks a loading operation to accept the older form of a time span, a count of microseconds.
 struct AllowLegacyMicrosecondsTag {
     explicit AllowLegacyMicrosecondsTag() = default;
 };

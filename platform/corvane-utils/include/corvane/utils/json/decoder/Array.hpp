@@ -1,18 +1,18 @@
-// A walk over the elements of a JSON array in the order of the text, once from front to back.
-// Valid while its Document lives.
 #pragma once
-
-#include <cstddef>
-#include <cstdint>
-#include <iterator>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/json/decoder/Location.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/decoder/detail/Tape.hpp>
 
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+
 namespace corvane::utils::json::decoder {
 
+/// A walk over the elements of a JSON array in the order of the text, once from front to back.
+/// Valid while its Document lives.
 class CORVANE_UTILS_EXPORT Array {
 public:
     /// A single-pass iterator: all iterators of an array stand at the same element.

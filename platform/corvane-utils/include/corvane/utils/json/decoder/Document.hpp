@@ -1,19 +1,19 @@
-// A JSON text that has been read and checked (RFC 8259, UTF-8), ready to be walked. Everything
-// that comes out of a document refers to it and is valid while it lives. A document is used by
-// one thread at a time.
 #pragma once
-
-#include <cstddef>
-#include <memory>
-#include <string>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/io/InputStream.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/decoder/detail/Tape.hpp>
 
+#include <cstddef>
+#include <memory>
+#include <string>
+
 namespace corvane::utils::json::decoder {
 
+/// A JSON text that has been read and checked (RFC 8259, UTF-8), ready to be walked. Everything
+/// that comes out of a document refers to it and is valid while it lives. A document is used by
+/// one thread at a time.
 class CORVANE_UTILS_EXPORT Document {
 public:
     /// How deep arrays and objects may be nested: a walk that recurses stays within the stack.

@@ -1,5 +1,3 @@
-// What every error in a JSON text can be caught as. It is not a std::exception itself: the class
-// that is thrown (detail::WrappedException) derives from one besides.
 #pragma once
 
 #include <corvane/utils/export.hpp>
@@ -7,6 +5,8 @@
 
 namespace corvane::utils::json::decoder {
 
+/// What every error in a JSON text can be caught as. It is not a std::exception itself: the class
+/// that is thrown (detail::WrappedException) derives from one besides.
 class CORVANE_UTILS_EXPORT Exception {
 public:
     explicit Exception(const Location& location) noexcept : location_(location) {}

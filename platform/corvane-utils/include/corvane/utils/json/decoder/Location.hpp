@@ -1,10 +1,10 @@
-// A place in a JSON text. A plain value.
 #pragma once
 
 #include <cstdint>
 
 namespace corvane::utils::json::decoder {
 
+/// A place in a JSON text. A plain value.
 class Location {
 public:
     /// The place is not known.

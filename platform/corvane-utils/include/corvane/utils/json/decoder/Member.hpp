@@ -1,5 +1,3 @@
-// A member of a JSON object: its name, and its value, which is valid until the object goes on to
-// the next member.
 #pragma once
 
 #include <corvane/utils/json/decoder/Name.hpp>
@@ -8,6 +6,8 @@ namespace corvane::utils::json::decoder {
 
 class Value;
 
+/// A member of a JSON object: its name, and its value, which is valid until the object goes on to
+/// the next member.
 struct Member {
     Name name;
     Value& value;

@@ -1,16 +1,16 @@
-// The name of a member of a JSON object, with its place in the text. A small value; one that
-// comes from a Document is valid while the document lives.
 #pragma once
-
-#include <cstdint>
-#include <string_view>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/json/decoder/Location.hpp>
 #include <corvane/utils/json/decoder/detail/Tape.hpp>
 
+#include <cstdint>
+#include <string_view>
+
 namespace corvane::utils::json::decoder {
 
+/// The name of a member of a JSON object, with its place in the text. A small value; one that
+/// comes from a Document is valid while the document lives.
 class CORVANE_UTILS_EXPORT Name {
 public:
     /// A name that comes from no document. The text is borrowed.

@@ -1,11 +1,4 @@
-// A walk over the members of a JSON object in the order of the text, once from front to back.
-// Valid while its Document lives.
 #pragma once
-
-#include <cstddef>
-#include <cstdint>
-#include <iterator>
-#include <vector>
 
 #include <corvane/utils/core/function_ref.hpp>
 #include <corvane/utils/export.hpp>
@@ -14,8 +7,15 @@
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/utils/json/decoder/detail/Tape.hpp>
 
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <vector>
+
 namespace corvane::utils::json::decoder {
 
+/// A walk over the members of a JSON object in the order of the text, once from front to back.
+/// Valid while its Document lives.
 class CORVANE_UTILS_EXPORT Object {
 public:
     /// Sees a member before the walk delivers it; true when it has consumed the member.

@@ -1,5 +1,3 @@
-// A JSON string: a range of the characters (UTF-8) that it stands for. Valid while its Document
-// lives.
 #pragma once
 
 #include <cstddef>
@@ -7,6 +5,8 @@
 
 namespace corvane::utils::json::decoder {
 
+/// A JSON string: a range of the characters (UTF-8) that it stands for. Valid while its Document
+/// lives.
 class String {
 public:
     using value_type = char;

@@ -1,27 +1,27 @@
-// A value of a JSON text. Values are handed out by a Document, an Object or an Array, and a
-// reference to one is valid until its owner goes on to the next value. The text was checked as a
-// whole beforehand, so a value that is not read needs no care.
-//
-// The conversions throw when the value is of another kind: detail::WrappedException of
-// std::runtime_error, located at the value, with a text such as
-// "expected a string, found a number".
 #pragma once
-
-#include <bit>
-#include <cstdint>
-#include <string_view>
-#include <variant>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/json/decoder/Location.hpp>
 #include <corvane/utils/json/decoder/String.hpp>
 #include <corvane/utils/json/decoder/detail/Tape.hpp>
 
+#include <bit>
+#include <cstdint>
+#include <string_view>
+#include <variant>
+
 namespace corvane::utils::json::decoder {
 
 class Array;
 class Object;
 
+/// A value of a JSON text. Values are handed out by a Document, an Object or an Array, and a
+/// reference to one is valid until its owner goes on to the next value. The text was checked as a
+/// whole beforehand, so a value that is not read needs no care.
+///
+/// The conversions throw when the value is of another kind: detail::WrappedException of
+/// std::runtime_error, located at the value, with a text such as
+/// "expected a string, found a number".
 class CORVANE_UTILS_EXPORT Value {
 public:
     /// An integer literal is signed when it fits, else unsigned when that fits, else a double.

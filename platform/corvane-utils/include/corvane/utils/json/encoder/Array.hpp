@@ -1,4 +1,3 @@
-// An array that is being written. A small handle, valid while its Document lives.
 #pragma once
 
 #include <corvane/utils/export.hpp>
@@ -7,6 +6,7 @@
 
 namespace corvane::utils::json::encoder {
 
+/// An array that is being written. A small handle, valid while its Document lives.
 class CORVANE_UTILS_EXPORT Array {
 public:
     /// Adds an element and returns its value, to be written next. Completes everything that is

@@ -1,7 +1,3 @@
-// Writes a JSON text to a stream as it is described, without building it first. The classes
-// Value, Object and Array are small handles into the document; they are valid while it lives.
-// Writing through a handle whose value or container is complete throws std::logic_error. A
-// document is used by one thread at a time.
 #pragma once
 
 #include <corvane/utils/export.hpp>
@@ -11,6 +7,10 @@
 
 namespace corvane::utils::json::encoder {
 
+/// Writes a JSON text to a stream as it is described, without building it first. The classes
+/// Value, Object and Array are small handles into the document; they are valid while it lives.
+/// Writing through a handle whose value or container is complete throws std::logic_error. A
+/// document is used by one thread at a time.
 class CORVANE_UTILS_EXPORT Document {
 public:
     enum class Format {

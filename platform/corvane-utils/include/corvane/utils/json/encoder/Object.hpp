@@ -1,14 +1,14 @@
-// An object that is being written. A small handle, valid while its Document lives.
 #pragma once
-
-#include <string_view>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
 #include <corvane/utils/json/encoder/detail/Writer.hpp>
 
+#include <string_view>
+
 namespace corvane::utils::json::encoder {
 
+/// An object that is being written. A small handle, valid while its Document lives.
 class CORVANE_UTILS_EXPORT Object {
 public:
     /// Adds a member and returns its value, to be written next. Completes everything that is

@@ -1,13 +1,11 @@
-// A place in a JSON document where one value is to be written, once. A value that is never
-// written becomes null. A small handle, valid while its Document lives.
 #pragma once
-
-#include <cstddef>
-#include <string_view>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/json/encoder/detail/Writer.hpp>
 #include <corvane/utils/string/BasicStaticString.hpp>
+
+#include <cstddef>
+#include <string_view>
 
 namespace corvane::utils::json::encoder {
 
@@ -15,6 +13,8 @@ class Array;
 class Document;
 class Object;
 
+/// A place in a JSON document where one value is to be written, once. A value that is never
+/// written becomes null. A small handle, valid while its Document lives.
 class CORVANE_UTILS_EXPORT Value {
 public:
     /// Makes the value an object. It is complete when something is added to a container around

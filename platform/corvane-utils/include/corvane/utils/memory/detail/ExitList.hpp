@@ -1,5 +1,6 @@
-// The list of objects that are destroyed at process exit, the newest first.
 #pragma once
+
+// The list of objects that are destroyed at process exit, the newest first.
 
 #include <corvane/utils/export.hpp>
 

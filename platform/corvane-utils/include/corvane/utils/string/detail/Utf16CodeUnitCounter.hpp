@@ -1,10 +1,10 @@
-// Counts the UTF-16 code units of the characters it is given.
 #pragma once
 
 #include <cstddef>
 
 namespace corvane::utils::string::detail {
 
+/// Counts the UTF-16 code units of the characters it is given.
 class Utf16CodeUnitCounter {
 public:
     constexpr void operator()(char32_t character) noexcept {

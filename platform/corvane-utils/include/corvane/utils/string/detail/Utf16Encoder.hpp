@@ -1,8 +1,8 @@
-// Writes characters as UTF-16 code units. Wide text holds UTF-16 also where wchar_t is wider.
 #pragma once
 
 namespace corvane::utils::string::detail {
 
+/// Writes characters as UTF-16 code units. Wide text holds UTF-16 also where wchar_t is wider.
 class Utf16Encoder {
 public:
     /// Calls sink(wchar_t) once, or twice for a surrogate pair. A lone surrogate and a value above

@@ -1,11 +1,11 @@
-// Decodes UTF-8 that arrives byte by byte. Malformed input gives U+FFFD once per maximal subpart
-// of an ill-formed sequence, as web browsers do. One decoder serves one text; not thread-safe.
 #pragma once
 
 #include <cstdint>
 
 namespace corvane::utils::string::detail {
 
+/// Decodes UTF-8 that arrives byte by byte. Malformed input gives U+FFFD once per maximal subpart
+/// of an ill-formed sequence, as web browsers do. One decoder serves one text; not thread-safe.
 class Utf8Decoder {
 public:
     /// Takes the next byte. Calls sink(char32_t) for each character that is then complete: not at

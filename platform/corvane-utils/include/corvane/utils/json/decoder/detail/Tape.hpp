@@ -1,6 +1,7 @@
-// The tokens of a JSON text in the order of the text, as the pull classes read them. Made once by
-// a decoder::Document and not changed afterwards.
 #pragma once
+
+#include <corvane/utils/export.hpp>
+#include <corvane/utils/json/decoder/Location.hpp>
 
 #include <cstddef>
 #include <cstdint>
@@ -8,9 +9,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <corvane/utils/export.hpp>
-#include <corvane/utils/json/decoder/Location.hpp>
 
 namespace corvane::utils::json::decoder::detail {
 
@@ -63,6 +61,8 @@ private:
     std::uint64_t word_;
 };
 
+/// The tokens of a JSON text in the order of the text, as the pull classes read them. Made once by
+/// a decoder::Document and not changed afterwards.
 class CORVANE_UTILS_EXPORT Tape {
 public:
     /// Where the bytes of an EscapedString are in Tape::unescaped, and where it begins in the text.

@@ -1,15 +1,16 @@
-// A standard exception together with the place in the JSON text that it is about.
 #pragma once
+
+#include <corvane/utils/json/decoder/Exception.hpp>
+#include <corvane/utils/json/decoder/Location.hpp>
 
 #include <exception>
 #include <type_traits>
 #include <utility>
 
-#include <corvane/utils/json/decoder/Exception.hpp>
-#include <corvane/utils/json/decoder/Location.hpp>
-
 namespace corvane::utils::json::decoder::detail {
 
+/// A standard exception together with the place in the JSON text that it is about.
+///
 /// Is caught as E and as decoder::Exception; what() is E's text alone.
 template <class E>
 class WrappedException : public E, public Exception {

@@ -1,4 +1,3 @@
-// The objects and arrays of a document that are open, each inside the one before.
 #pragma once
 
 #include <cstddef>
@@ -7,6 +6,8 @@
 
 namespace corvane::utils::json::encoder::detail {
 
+/// The objects and arrays of a document that are open, each inside the one before.
+///
 /// A stack that is never empty: the first level, of depth 0, is the document itself.
 class Levels {
 public:

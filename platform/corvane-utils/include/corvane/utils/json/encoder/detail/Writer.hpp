@@ -1,19 +1,20 @@
-// What a document that is being written and the handles into it share: where it goes to, what is
-// open, and what may be written next. Nothing here is called but through them.
 #pragma once
-
-#include <cstddef>
-#include <cstdint>
-#include <string>
-#include <string_view>
 
 #include <corvane/utils/export.hpp>
 #include <corvane/utils/io/OutputStream.hpp>
 #include <corvane/utils/json/encoder/detail/Levels.hpp>
 #include <corvane/utils/string/BasicStaticString.hpp>
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
 namespace corvane::utils::json::encoder::detail {
 
+/// What a document that is being written and the handles into it share: where it goes to, what is
+/// open, and what may be written next. Nothing here is called but through them.
+///
 /// Every value has an even ticket of its own; the object or array that it becomes has the odd one
 /// behind it. Throws std::logic_error for the ticket of what is complete.
 class CORVANE_UTILS_EXPORT Writer {
