@@ -44,6 +44,8 @@ std::string_view editorText(skill::EditableProperty::Editor editor) {
         return "reference";
     case Editor::SubElementList:
         return "list";
+    case Editor::Flag:
+        return "flag";
     }
     return "unknown";
 }

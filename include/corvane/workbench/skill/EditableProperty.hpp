@@ -28,7 +28,9 @@ struct EditableProperty {
         TimeStamp,
         Uuid,
         Reference,
-        SubElementList
+        SubElementList,
+        /// Set or not: the texts are "true" and "false".
+        Flag
     };
 
     /// Stable name (UTF-8), as in configuration files and on command lines.
@@ -52,6 +54,11 @@ struct EditableProperty {
     std::function<tl::expected<void, std::wstring>(std::size_t)> insertSubElement{};
     /// Removes the row at the given index and publishes the property; or says why not.
     std::function<tl::expected<void, std::wstring>(std::size_t)> removeSubElement{};
+    /// Moves the row at the first index to the second one, where it stands afterwards, and publishes
+    /// the property; or says why not. Empty: the rows keep their order.
+    std::function<tl::expected<void, std::wstring>(std::size_t, std::size_t)> moveSubElement{};
+    /// A sentence that explains the property to the user; may be empty.
+    std::wstring toolTip{};
 };
 
 } // namespace corvane::workbench::skill
