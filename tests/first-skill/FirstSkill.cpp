@@ -196,7 +196,35 @@ TEST_F(FirstSkill, TheLeaderFollowsARenameAndMissesARemovedElement) {
     EXPECT_EQ(leader.text(), L"first.speed");
     EXPECT_EQ(leader.property.state().error(), L"the element “first” does not exist");
     EXPECT_THAT(heard, ElementsAre("value", "state"));
-    EXPECT_THAT(problems(), ElementsAre("second: leader"));
+    EXPECT_THAT(problems(), ::testing::Contains("second: leader"));
+}
+
+TEST_F(FirstSkill, AStepThatWaitsFollowsARenameAndMissesARemovedElement) {
+    loadConfiguration();
+    const EditableProperty steps = property(workbench.findElement("second"), "steps");
+    const EditableProperty waitsFor = property(*rowsOf(steps)[0], "waitsFor");
+    EXPECT_EQ(waitsFor.text(), L"main");
+    EXPECT_TRUE(waitsFor.property.state());
+
+    EXPECT_TRUE(workbench.rename("main", "first"));
+    EXPECT_EQ(waitsFor.text(), L"first");
+
+    EXPECT_TRUE(workbench.remove("first"));
+    EXPECT_EQ(waitsFor.property.state().error(), L"the element “first” does not exist");
+    EXPECT_THAT(problems(), ElementsAre("second: leader", "second: steps.0.waitsFor"));
+}
+
+TEST_F(FirstSkill, AStepThatWaitsForNobodyThereIsAnErrorFromTheStart) {
+    const LoadResult result = load("{\"children\": [{\"FirstSkill.Mixer\": {\"name\": \"m\", "
+                                   "\"topSpeed\": 100, \"steps\": [\n"
+                                   "{\"ingredient\": \"gone\", \"waitsFor\": \"gone\"}]}}]}");
+
+    EXPECT_TRUE(result.loaded);
+    ASSERT_EQ(result.problems.size(), 1U);
+    EXPECT_EQ(toString(result.problems[0]),
+              "mixers.json:2:36: error: the element “gone” does not exist");
+    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 1U);
+    EXPECT_THAT(problems(), ElementsAre("m: steps.0.waitsFor"));
 }
 
 TEST_F(FirstSkill, WhatIsSavedLoadsAgainAsTheSame) {
@@ -213,6 +241,7 @@ TEST_F(FirstSkill, WhatIsSavedLoadsAgainAsTheSame) {
     EXPECT_EQ(saved, contents(twice));
     EXPECT_THAT(saved, ::testing::HasSubstr("\"leader\": \"main.speed\""));
     EXPECT_THAT(saved, ::testing::HasSubstr("\"ingredient\": \"sugar\""));
+    EXPECT_THAT(saved, ::testing::HasSubstr("\"waitsFor\": \"main\""));
     std::filesystem::remove(once);
     std::filesystem::remove(twice);
 }

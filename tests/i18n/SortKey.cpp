@@ -1,6 +1,8 @@
 // What every system must give under every language.
 #include <corvane/workbench/i18n/SortKey.hpp>
 
+#include <corvane/workbench/i18n/SortOrdering.hpp>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -58,6 +60,21 @@ TEST(SortKey, SortsNamesAsAUserExpects) {
     std::ranges::sort(names, {}, [](const std::wstring& name) { return SortKey(name); });
     EXPECT_EQ(names,
               (std::vector<std::wstring>{L"Motor", L"pump", L"valve 1", L"valve 9", L"Valve 10"}));
+}
+
+TEST(SortKey, ComparesAsTheSortOrderingDoes) {
+    const std::vector<std::wstring> texts = {
+        L"",       L" ",      L"1",      L"2",     L"10",      L"a",        L"A",
+        L"a1",     L"A2",     L"a10",    L"ab",    L"Valve 9", L"valve 10", L"r\u00E9sum\u00E9",
+        L"resume", L"co-op",  L"coop",   L"it's",  L"its",     L"\u00FC",   L"u",
+        L"\u0434", L"\u0414", L"file01", L"file1", L"\u6F22"};
+    for (const std::wstring& left : texts) {
+        for (const std::wstring& right : texts) {
+            EXPECT_EQ(SortKey(left) <=> SortKey(right),
+                      corvane::workbench::i18n::SortOrdering()(left, right))
+                << ::testing::PrintToString(left) << ::testing::PrintToString(right);
+        }
+    }
 }
 
 } // namespace
