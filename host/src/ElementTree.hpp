@@ -69,7 +69,7 @@ public:
     void clear();
 
     /// Counts the errors of a node and everything below it, which are linked to each other by it,
-    /// and leaves the node itself without an enclosing container. A node whose skill's half fails
+    /// and leaves the node itself without an enclosing container. A node whose skill element fails
     /// to describe its properties is handed to `failed` with the exception that is being handled;
     /// `done` is called after each node.
     static void linkProperties(ElementNode& top, const std::function<void(ElementNode&)>& failed,
@@ -95,7 +95,7 @@ public:
         membersPublished_ = std::move(callback);
     }
 
-    // Doors to the nodes, for those who edit the tree.
+    // What is private to the nodes, for those who edit the tree.
 
     [[nodiscard]] static std::shared_ptr<ReferenceProxy> proxy(const ElementNode& node) {
         return node.proxy();
