@@ -19,7 +19,7 @@
 
 namespace corvane::workbench::host {
 
-namespace decoder = corvane::utils::json::decoder;
+namespace decoder = utils::json::decoder;
 
 namespace {
 

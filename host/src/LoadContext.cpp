@@ -21,7 +21,7 @@ namespace corvane::workbench::host {
 
 namespace {
 
-namespace decoder = corvane::utils::json::decoder;
+namespace decoder = utils::json::decoder;
 
 /// The problem of a reference that leads nowhere; nothing when it is empty, resolves, or is to stay
 /// an import reference.
