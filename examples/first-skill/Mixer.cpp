@@ -8,7 +8,6 @@
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
 #include <corvane/utils/numeric/format.hpp>
-#include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/config/Context.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>
 #include <corvane/workbench/model/Attribute.hpp>
@@ -35,6 +34,7 @@ void Mixer::configureProperties(PropertyConfigurationContext& context) {
         {.state = [this] { return check(share_ > 0, "The share must be greater than 0 %."); },
          .visibility = [this] { return static_cast<bool>(leader_); },
          .visibilityDependencies = {leader_.propertyId()}});
+    steps_.link();
     context.configure(
         Step::kList,
         {.state = [this] { return stepsState(); }, .stateDependencies = {Step::kList, kTopSpeed}},
@@ -68,9 +68,7 @@ void Mixer::load(utils::json::decoder::Object& object, workbench::config::Contex
             share_ = value.asInt64();
         } else if (name == "steps") {
             for (utils::json::decoder::Value& row : value.asArray()) {
-                Step step;
-                step.load(row);
-                steps_.insert(steps_.size(), step);
+                steps_.append().load(row, context);
             }
         } else {
             workbench::config::throwUnknownParameterError(name);
@@ -107,11 +105,8 @@ void Mixer::forEachEditableProperty(
     utils::core::function_ref<void(const workbench::skill::EditableProperty&)> callback) {
     using workbench::skill::EditableProperty;
     callback(numberEditor("topSpeed", "Top speed", propertyHandle(kTopSpeed), topSpeed_));
-    callback({.name = "leader",
-              .displayName = text("Follows"),
-              .editor = EditableProperty::Editor::Reference,
-              .property = propertyHandle(leader_.propertyId()),
-              .text = [this] { return utils::string::toWide(leader_.primaryKey()); }});
+    callback(referenceEditor("leader", "Follows", propertyHandle(leader_.propertyId()),
+                             [this] { return leader_.primaryKey(); }));
     callback(numberEditor("share", "Share (%)", propertyHandle(kShare), share_));
 
     EditableProperty steps;
@@ -130,7 +125,7 @@ void Mixer::forEachEditableProperty(
         if (index > steps_.size()) {
             return tl::unexpected(text("There is no such step."));
         }
-        steps_.insert(index, Step());
+        steps_.insert(index);
         list.publish(workbench::bindings::Action::Insert, index);
         return {};
     };

@@ -8,6 +8,7 @@
 #include <corvane/utils/json/encoder/Value.hpp>
 #include <corvane/utils/numeric/format.hpp>
 #include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/config/Context.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>
 
 namespace first_skill {
@@ -29,19 +30,31 @@ void Step::configureProperties(PropertyConfigurationContext& context) {
     context.configure(
         kSpeed, {.state = [this] { return check(speed > 0, "The speed must be greater than 0."); },
                  .raisedProperties = {kList}});
+    context.configure(waitsFor.propertyId(), {.state = [this] { return waitsForState(); }},
+                      {.crossReferenceController = &waitsFor});
     context.configure(displayNamePropertyId(), {.valueDependencies = {kIngredient}});
+}
+
+Step::PropertyState Step::waitsForState() const {
+    if (!waitsFor) {
+        return {};
+    }
+    const auto mixer = waitsFor.element();
+    return mixer ? PropertyState() : tl::unexpected(mixer.error());
 }
 
 std::wstring Step::displayName() const {
     return utils::string::toWide(ingredient);
 }
 
-void Step::load(utils::json::decoder::Value& row) {
+void Step::load(utils::json::decoder::Value& row, workbench::config::Context& context) {
     for (const auto& [name, value] : row.asObject()) {
         if (name == "ingredient") {
             ingredient = value.asString().view();
         } else if (name == "speed") {
             speed = value.asInt64();
+        } else if (name == "waitsFor") {
+            context.resolve(workbench::config::Context::ReferenceKey(value), waitsFor);
         } else {
             workbench::config::throwUnknownParameterError(name);
         }
@@ -52,12 +65,17 @@ void Step::saveTo(utils::json::encoder::Array& rows) const {
     auto row = rows.addElement().writeObject();
     row.addMember("ingredient").writeString(ingredient);
     row.addMember("speed").writeNumber(utils::numeric::format(speed).view());
+    if (waitsFor) {
+        waitsFor.saveTo(row, "waitsFor");
+    }
 }
 
 void Step::forEachEditableProperty(
     utils::core::function_ref<void(const workbench::skill::EditableProperty&)> callback) {
     callback(textEditor("ingredient", "Ingredient", propertyHandle(kIngredient), ingredient));
     callback(numberEditor("speed", "Speed", propertyHandle(kSpeed), speed));
+    callback(referenceEditor("waitsFor", "Waits for", propertyHandle(waitsFor.propertyId()),
+                             [this] { return waitsFor.primaryKey(); }));
 }
 
 } // namespace first_skill

@@ -2,6 +2,7 @@
 
 #include "names.hpp"
 #include <corvane/workbench/bindings/PropertyKey.hpp>
+#include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
 
 #include <cstdint>
@@ -12,6 +13,9 @@ class Value;
 }
 namespace corvane::utils::json::encoder {
 class Array;
+}
+namespace corvane::workbench::config {
+class Context;
 }
 
 namespace first_skill {
@@ -24,8 +28,10 @@ public:
 
     std::string ingredient;
     std::int64_t speed = 100;
+    /// The mixer that must have finished before the step begins; may be empty.
+    workbench::model::ElementReference waitsFor;
 
-    void load(utils::json::decoder::Value& row);
+    void load(utils::json::decoder::Value& row, workbench::config::Context& context);
     void saveTo(utils::json::encoder::Array& rows) const;
 
     std::wstring displayName() const override;
@@ -35,6 +41,8 @@ public:
 
 private:
     void configureProperties(PropertyConfigurationContext& context) override;
+
+    PropertyState waitsForState() const;
 };
 
 } // namespace first_skill

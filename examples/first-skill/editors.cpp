@@ -55,4 +55,14 @@ EditableProperty numberEditor(std::string_view name, std::string_view displayNam
         }};
 }
 
+EditableProperty referenceEditor(std::string_view name, std::string_view displayName,
+                                 const PropertyHandle& property,
+                                 const std::function<std::string()>& key) {
+    return {.name = std::string(name),
+            .displayName = text(displayName),
+            .editor = EditableProperty::Editor::Reference,
+            .property = property,
+            .text = [key] { return utils::string::toWide(key()); }};
+}
+
 } // namespace first_skill

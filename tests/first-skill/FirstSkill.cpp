@@ -1,5 +1,6 @@
 // The skill that docs/writing-a-skill.md builds, in the reference workbench.
 
+#include "utils/io/TemporaryFolder.hpp"
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
@@ -9,16 +10,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace {
 
-using corvane::workbench::bindings::Action;
+using corvane::tests::TemporaryFolder;
 using corvane::workbench::host::ElementNode;
 using corvane::workbench::host::LoadResult;
 using corvane::workbench::host::Workbench;
@@ -26,11 +24,6 @@ using corvane::workbench::skill::EditableProperty;
 using corvane::workbench::skill::SubElement;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-std::string contents(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 /// The property of that name of an element or of a row.
 template <class Owner>
@@ -196,25 +189,52 @@ TEST_F(FirstSkill, TheLeaderFollowsARenameAndMissesARemovedElement) {
     EXPECT_EQ(leader.text(), L"first.speed");
     EXPECT_EQ(leader.property.state().error(), L"the element “first” does not exist");
     EXPECT_THAT(heard, ElementsAre("value", "state"));
-    EXPECT_THAT(problems(), ElementsAre("second: leader"));
+    EXPECT_THAT(problems(), ::testing::Contains("second: leader"));
+}
+
+TEST_F(FirstSkill, AStepThatWaitsFollowsARenameAndMissesARemovedElement) {
+    loadConfiguration();
+    const EditableProperty steps = property(workbench.findElement("second"), "steps");
+    const EditableProperty waitsFor = property(*rowsOf(steps)[0], "waitsFor");
+    EXPECT_EQ(waitsFor.text(), L"main");
+    EXPECT_TRUE(waitsFor.property.state());
+
+    EXPECT_TRUE(workbench.rename("main", "first"));
+    EXPECT_EQ(waitsFor.text(), L"first");
+
+    EXPECT_TRUE(workbench.remove("first"));
+    EXPECT_EQ(waitsFor.property.state().error(), L"the element “first” does not exist");
+    EXPECT_THAT(problems(), ElementsAre("second: leader", "second: steps.0.waitsFor"));
+}
+
+TEST_F(FirstSkill, AStepThatWaitsForNobodyThereIsAnErrorFromTheStart) {
+    const LoadResult result = load("{\"children\": [{\"FirstSkill.Mixer\": {\"name\": \"m\", "
+                                   "\"topSpeed\": 100, \"steps\": [\n"
+                                   "{\"ingredient\": \"gone\", \"waitsFor\": \"gone\"}]}}]}");
+
+    EXPECT_TRUE(result.loaded);
+    ASSERT_EQ(result.problems.size(), 1U);
+    EXPECT_EQ(toString(result.problems[0]),
+              "mixers.json:2:36: error: the element “gone” does not exist");
+    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 1U);
+    EXPECT_THAT(problems(), ElementsAre("m: steps.0.waitsFor"));
 }
 
 TEST_F(FirstSkill, WhatIsSavedLoadsAgainAsTheSame) {
     loadConfiguration();
-    const auto folder = std::filesystem::temp_directory_path();
-    const auto once = folder / "corvane-first-skill-once.json";
-    const auto twice = folder / "corvane-first-skill-twice.json";
+    const TemporaryFolder folder;
+    const auto once = folder.path() / "once.json";
+    const auto twice = folder.path() / "twice.json";
 
     ASSERT_TRUE(workbench.saveConfiguration(once));
     ASSERT_TRUE(workbench.loadConfiguration(once));
     ASSERT_TRUE(workbench.saveConfiguration(twice));
 
-    const std::string saved = contents(once);
-    EXPECT_EQ(saved, contents(twice));
+    const std::string saved = TemporaryFolder::read(once);
+    EXPECT_EQ(saved, TemporaryFolder::read(twice));
     EXPECT_THAT(saved, ::testing::HasSubstr("\"leader\": \"main.speed\""));
     EXPECT_THAT(saved, ::testing::HasSubstr("\"ingredient\": \"sugar\""));
-    std::filesystem::remove(once);
-    std::filesystem::remove(twice);
+    EXPECT_THAT(saved, ::testing::HasSubstr("\"waitsFor\": \"main\""));
 }
 
 TEST_F(FirstSkill, AnUnknownMemberIsReportedWithItsPlace) {

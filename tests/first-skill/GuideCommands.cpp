@@ -1,6 +1,7 @@
 // The commands of docs/writing-a-skill.md print what the guide says that they print.
 
 #include "run.hpp"
+#include "utils/io/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -56,23 +57,21 @@ std::vector<Command> commandsOf(const std::filesystem::path& guide) {
 class GuideCommands : public ::testing::Test {
 protected:
     GuideCommands() : commands(commandsOf(GUIDES_FOLDER "/writing-a-skill.md")) {
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_ / "examples/first-skill");
-        std::filesystem::copy(FIRST_SKILL_CONFIGURATION, folder_ / "examples/first-skill");
-        std::filesystem::current_path(folder_);
+        const auto example = folder_.path() / "examples/first-skill";
+        std::filesystem::create_directories(example);
+        std::filesystem::copy(FIRST_SKILL_CONFIGURATION, example);
+        std::filesystem::current_path(folder_.path());
     }
     ~GuideCommands() override {
         std::error_code ignored;
         std::filesystem::current_path(before_, ignored);
-        std::filesystem::remove_all(folder_, ignored);
     }
 
     std::vector<Command> commands;
 
 private:
     std::filesystem::path before_ = std::filesystem::current_path();
-    std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / "corvane-first-skill-guide";
+    corvane::tests::TemporaryFolder folder_;
 };
 
 TEST_F(GuideCommands, PrintWhatTheGuideSays) {
