@@ -2,9 +2,9 @@
 #include "ExitCode.hpp"
 #include "OpenConfiguration.hpp"
 #include "commands.hpp"
-#include "editableProperties.hpp"
 #include "showJson.hpp"
 #include "text.hpp"
+#include <corvane/workbench/host/editableProperties.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
 
@@ -50,7 +50,7 @@ private:
                      : state  ? "ok     "
                               : "error  ")
                  << onOneLine(property.displayName) << ':';
-        if (const std::string value = valueText(property); !value.empty()) {
+        if (const std::string value = host::valueText(property); !value.empty()) {
             out_ << ' ' << value;
         }
         if (!state) {

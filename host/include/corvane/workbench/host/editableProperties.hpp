@@ -10,50 +10,48 @@
 #include <string>
 #include <string_view>
 
-namespace corvane::workbench::host {
-class ElementNode;
-class Workbench;
-} // namespace corvane::workbench::host
 namespace corvane::workbench::skill {
 struct EditableProperty;
 class SubElement;
 } // namespace corvane::workbench::skill
 
-namespace corvane::skillbench {
+namespace corvane::workbench::host {
+
+class ElementNode;
+class Workbench;
 
 /// A property that a user may see, as its element describes it.
 struct PropertyPlace {
-    const workbench::skill::EditableProperty& property;
+    const skill::EditableProperty& property;
     const std::string& path;
     /// The row that holds the property; null when the element itself does.
-    workbench::skill::SubElement* row;
+    skill::SubElement* row;
 };
 
 /// Calls back for each property in the order of the form, a list before its rows. The place is
 /// valid during the call.
-void forEachProperty(const workbench::host::ElementNode& element,
+void forEachProperty(const ElementNode& element,
                      utils::core::function_ref<void(const PropertyPlace&)> callback);
 
 /// The key of an element and, joined to it, the path of one of its properties.
 struct PropertyAddress {
-    workbench::host::ElementNode* element;
+    ElementNode* element;
     std::string path;
 };
 
 /// What an address such as "Plant.Pump 1.alarmLimits.0.high" names: of the beginnings that are keys
 /// of elements the longest whose element has the property. Nothing if there is none.
-[[nodiscard]] std::optional<PropertyAddress>
-findProperty(const workbench::host::Workbench& workbench, std::string_view address);
+[[nodiscard]] std::optional<PropertyAddress> findProperty(const Workbench& workbench,
+                                                          std::string_view address);
 
 /// Why there is none, in a sentence for the user.
-[[nodiscard]] std::string propertyNotFound(const workbench::host::Workbench& workbench,
-                                           std::string_view address);
+[[nodiscard]] std::string propertyNotFound(const Workbench& workbench, std::string_view address);
 
 /// Calls back with the property of that path.
 void withProperty(const PropertyAddress& address,
                   utils::core::function_ref<void(const PropertyPlace&)> callback);
 
 /// The text of the value as the user sees it, on one line.
-[[nodiscard]] std::string valueText(const workbench::skill::EditableProperty& property);
+[[nodiscard]] std::string valueText(const skill::EditableProperty& property);
 
-} // namespace corvane::skillbench
+} // namespace corvane::workbench::host

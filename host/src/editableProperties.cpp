@@ -1,8 +1,9 @@
-#include "editableProperties.hpp"
+#include <corvane/workbench/host/editableProperties.hpp>
 
 #include "text.hpp"
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
+#include <corvane/workbench/host/displayText.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/Element.hpp>
@@ -10,12 +11,9 @@
 
 #include <cstddef>
 
-namespace corvane::skillbench {
+namespace corvane::workbench::host {
 
 namespace {
-
-namespace host = workbench::host;
-namespace skill = workbench::skill;
 
 using Callback = utils::core::function_ref<void(const PropertyPlace&)>;
 
@@ -37,7 +35,7 @@ void visit(const skill::EditableProperty& property, const std::string& prefix,
     property.forEachSubElement(visitRow);
 }
 
-bool hasProperty(const host::ElementNode& element, std::string_view path) {
+bool hasProperty(const ElementNode& element, std::string_view path) {
     bool found = false;
     const auto look = [&](const PropertyPlace& place) { found = found || place.path == path; };
     forEachProperty(element, look);
@@ -47,15 +45,15 @@ bool hasProperty(const host::ElementNode& element, std::string_view path) {
 /// Calls the function with each beginning of the address that is the key of an element, the longest
 /// first, and with what stands behind it, until it returns true.
 template <class Visit>
-void forEachElementOf(const host::Workbench& workbench, std::string_view address, Visit&& visit) {
+void forEachElementOf(const Workbench& workbench, std::string_view address, Visit&& visit) {
     std::string_view key = address;
     for (;;) {
-        const auto [shorter, last] = workbench::model::internal::splitMemberKey(key);
+        const auto [shorter, last] = model::internal::splitMemberKey(key);
         if (!last) {
             return;
         }
         key = shorter;
-        host::ElementNode* element = workbench.findElement(key);
+        ElementNode* element = workbench.findElement(key);
         if (element != nullptr && !key.empty() && visit(*element, address.substr(key.size() + 1))) {
             return;
         }
@@ -64,7 +62,7 @@ void forEachElementOf(const host::Workbench& workbench, std::string_view address
 
 } // namespace
 
-void forEachProperty(const host::ElementNode& element, Callback callback) {
+void forEachProperty(const ElementNode& element, Callback callback) {
     if (skill::Element* skillElement = element.skillElement()) {
         const auto visitProperty = [&](const skill::EditableProperty& property) {
             visit(property, {}, nullptr, callback);
@@ -73,10 +71,9 @@ void forEachProperty(const host::ElementNode& element, Callback callback) {
     }
 }
 
-std::optional<PropertyAddress> findProperty(const host::Workbench& workbench,
-                                            std::string_view address) {
+std::optional<PropertyAddress> findProperty(const Workbench& workbench, std::string_view address) {
     std::optional<PropertyAddress> result;
-    forEachElementOf(workbench, address, [&](host::ElementNode& element, std::string_view path) {
+    forEachElementOf(workbench, address, [&](ElementNode& element, std::string_view path) {
         if (hasProperty(element, path)) {
             result = PropertyAddress{&element, std::string(path)};
         }
@@ -85,9 +82,9 @@ std::optional<PropertyAddress> findProperty(const host::Workbench& workbench,
     return result;
 }
 
-std::string propertyNotFound(const host::Workbench& workbench, std::string_view address) {
+std::string propertyNotFound(const Workbench& workbench, std::string_view address) {
     std::string result = inQuotes(address) + " names no property of an element";
-    forEachElementOf(workbench, address, [&](host::ElementNode& element, std::string_view path) {
+    forEachElementOf(workbench, address, [&](ElementNode& element, std::string_view path) {
         result =
             "the element " + inQuotes(element.primaryKey()) + " has no property " + inQuotes(path);
         return true;
@@ -108,4 +105,4 @@ std::string valueText(const skill::EditableProperty& property) {
     return property.text ? onOneLine(property.text()) : std::string();
 }
 
-} // namespace corvane::skillbench
+} // namespace corvane::workbench::host
