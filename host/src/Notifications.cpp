@@ -143,6 +143,14 @@ void Notifications::errorCountChanged(const ElementNode& element) const {
         << ": " << element.properties().propertyErrorCount() << '\n';
 }
 
+void Notifications::configurationUnloading() {
+    watches_.clear();
+}
+
+void Notifications::configurationLoaded() {
+    refresh();
+}
+
 void Notifications::elementAdded(const ElementNode& element) {
     line("added", element.primaryKey()) << '\n';
 }
@@ -169,26 +177,17 @@ void Notifications::elementMembersChanged(const ElementNode& element) {
 }
 
 void Notifications::referenceKeyChanged(const BasicElementReference& reference) {
-    line("new key", placeOf(reference)) << ": " << onOneLine(reference.data().primaryKey()) << '\n';
+    line("new key", placeOf(reference, workbench_))
+        << ": " << onOneLine(reference.data().primaryKey()) << '\n';
 }
 
 void Notifications::referenceStateChanged(const BasicElementReference& reference) {
-    line("resolution", placeOf(reference))
+    line("resolution", placeOf(reference, workbench_))
         << ": " << onOneLine(reference.data().primaryKey()) << '\n';
 }
 
 std::ostream& Notifications::line(std::string_view what, std::string_view where) const {
-    constexpr std::size_t kColumn = 12;
-    return out_ << "  " << what << std::string(kColumn - what.size(), ' ') << onOneLine(where);
-}
-
-std::string Notifications::placeOf(const BasicElementReference& reference) const {
-    const ElementNode* owner = workbench_.ownerOf(reference);
-    if (owner == nullptr) {
-        return "(no element)";
-    }
-    const std::string path = propertyPath(reference, *owner);
-    return path.empty() ? owner->primaryKey() : owner->primaryKey() + "." + path;
+    return out_ << "  " << what << std::string(kPlaceColumn - what.size(), ' ') << onOneLine(where);
 }
 
 } // namespace corvane::workbench::host

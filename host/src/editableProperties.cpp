@@ -35,11 +35,20 @@ void visit(const skill::EditableProperty& property, const std::string& prefix,
     property.forEachSubElement(visitRow);
 }
 
-bool hasProperty(const ElementNode& element, std::string_view path) {
-    bool found = false;
-    const auto look = [&](const PropertyPlace& place) { found = found || place.path == path; };
-    forEachProperty(element, look);
-    return found;
+/// The path with its rows written as in "limits.0" where they are written as in "limits[0]".
+std::string withRowsAsNames(std::string_view path) {
+    std::string result(path);
+    std::size_t open = result.find('[', 1);
+    while (open != std::string::npos) {
+        const std::size_t close = result.find_first_not_of("0123456789", open + 1);
+        if (close != std::string::npos && close > open + 1 && result[close] == ']' &&
+            result[open - 1] != '.') {
+            result.erase(close, 1);
+            result[open] = '.';
+        }
+        open = result.find('[', open + 1);
+    }
+    return result;
 }
 
 /// Calls the function with each beginning of the address that is the key of an element, the longest
@@ -71,11 +80,23 @@ void forEachProperty(const ElementNode& element, Callback callback) {
     }
 }
 
+std::optional<std::string> findProperty(const ElementNode& element, std::string_view path) {
+    const std::string wanted = withRowsAsNames(path);
+    std::optional<std::string> result;
+    const auto look = [&](const PropertyPlace& place) {
+        if (place.path == path || (place.path == wanted && !result)) {
+            result = place.path;
+        }
+    };
+    forEachProperty(element, look);
+    return result;
+}
+
 std::optional<PropertyAddress> findProperty(const Workbench& workbench, std::string_view address) {
     std::optional<PropertyAddress> result;
     forEachElementOf(workbench, address, [&](ElementNode& element, std::string_view path) {
-        if (hasProperty(element, path)) {
-            result = PropertyAddress{&element, std::string(path)};
+        if (auto found = findProperty(element, path)) {
+            result = PropertyAddress{&element, *std::move(found)};
         }
         return result.has_value();
     });

@@ -1,5 +1,6 @@
 #include <corvane/workbench/host/referenceProperty.hpp>
 
+#include <corvane/workbench/host/Workbench.hpp>
 #include <corvane/workbench/host/editableProperties.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
@@ -16,6 +17,16 @@ std::string propertyPath(const model::internal::BasicElementReference& reference
     };
     forEachProperty(owner, look);
     return result;
+}
+
+std::string placeOf(const model::internal::BasicElementReference& reference,
+                    const Workbench& workbench) {
+    const ElementNode* owner = workbench.ownerOf(reference);
+    if (owner == nullptr) {
+        return "(no element)";
+    }
+    const std::string path = propertyPath(reference, *owner);
+    return path.empty() ? owner->primaryKey() : owner->primaryKey() + "." + path;
 }
 
 // The identifier is made from the reference's address, so that there is no other property of it.

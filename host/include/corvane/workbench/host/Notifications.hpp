@@ -4,9 +4,9 @@
 #include <corvane/workbench/host/Observer.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 
+#include <cstddef>
 #include <iosfwd>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <unordered_map>
 
@@ -16,12 +16,14 @@ struct PropertyPlace;
 
 /// Does what a user interface with everything open would do: subscribes to all properties and error
 /// counts of all elements, observes the workbench, and prints each notification as it comes, on a
-/// line of its own.
+/// line of its own. When another configuration is loaded, it goes on with that one.
 ///
-/// Must end before the workbench and its elements, and while it lives no other configuration
-/// is loaded.
+/// Must end before the workbench and its elements.
 class Notifications final : private Observer {
 public:
+    /// Where in a line the place of what happened begins, behind the indentation.
+    static constexpr std::size_t kPlaceColumn = 12;
+
     Notifications(Workbench& workbench, std::ostream& out);
     Notifications(const Notifications&) = delete;
     Notifications& operator=(const Notifications&) = delete;
@@ -34,6 +36,8 @@ public:
 private:
     class Watch;
 
+    void configurationUnloading() override;
+    void configurationLoaded() override;
     void elementAdded(const ElementNode& element) override;
     void elementRenamed(const ElementNode& element, std::string_view oldKey) override;
     void elementMoved(const ElementNode& element, std::string_view oldKey) override;
@@ -50,8 +54,6 @@ private:
     void forgetBelow(const ElementNode& element);
     /// Begins a line: what happened, in a column, and where.
     std::ostream& line(std::string_view what, std::string_view where) const;
-    [[nodiscard]] std::string
-    placeOf(const model::internal::BasicElementReference& reference) const;
 
     Workbench& workbench_;
     std::ostream& out_;

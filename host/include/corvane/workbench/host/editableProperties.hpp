@@ -2,7 +2,8 @@
 
 // Walks through the properties of an element, those of the rows of its lists included, and finds
 // one by its path: the names on the way to it, joined by ".", where a row is named by its number
-// counted from 0 ("alarmLimits.0.high").
+// counted from 0 ("alarmLimits.0.high"). Who looks for one may write the number in brackets
+// ("alarmLimits[0].high").
 
 #include <corvane/utils/core/function_ref.hpp>
 
@@ -32,6 +33,10 @@ struct PropertyPlace {
 /// valid during the call.
 void forEachProperty(const ElementNode& element,
                      utils::core::function_ref<void(const PropertyPlace&)> callback);
+
+/// The path of the property that the element has by that name; nothing if there is none.
+[[nodiscard]] std::optional<std::string> findProperty(const ElementNode& element,
+                                                      std::string_view path);
 
 /// The key of an element and, joined to it, the path of one of its properties.
 struct PropertyAddress {

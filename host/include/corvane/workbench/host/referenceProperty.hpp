@@ -1,6 +1,6 @@
 #pragma once
 
-// Finds the property that a reference is.
+// Which property a reference is.
 
 #include <string>
 
@@ -14,10 +14,16 @@ struct EditableProperty;
 namespace corvane::workbench::host {
 
 class ElementNode;
+class Workbench;
 
 /// The path of the reference among the properties of its element; empty when it is none of them.
 [[nodiscard]] std::string propertyPath(const model::internal::BasicElementReference& reference,
                                        const ElementNode& owner);
+
+/// The address of the property that the reference is, or of its element when it is none of its
+/// properties; "(no element)" when no element in the tree holds the reference.
+[[nodiscard]] std::string placeOf(const model::internal::BasicElementReference& reference,
+                                  const Workbench& workbench);
 
 /// Whether the property is that reference.
 [[nodiscard]] bool isProperty(const model::internal::BasicElementReference& reference,
