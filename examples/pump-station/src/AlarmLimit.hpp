@@ -1,60 +1,31 @@
 #pragma once
 
-#include "MeasuringRange.hpp"
-#include <corvane/workbench/bindings/PropertyKey.hpp>
+#include "names.hpp"
 #include <corvane/workbench/chrono/Duration.hpp>
-#include <corvane/workbench/skill/SubElement.hpp>
+#include <corvane/workbench/kit/Form.hpp>
+#include <corvane/workbench/kit/Row.hpp>
 
 #include <string>
 
-namespace corvane::utils::json::decoder {
-class Value;
-}
-namespace corvane::utils::json::encoder {
-class Array;
-}
-
 namespace pump_station {
 
-/// A row in the list of a measurement's alarm limits. Every change of a row is raised as a change
-/// of the list property of the measurement.
-class AlarmLimit final : public corvane::workbench::skill::SubElement {
+/// A row in the list of a measurement's alarm limits.
+class AlarmLimit final : public kit::Row {
 public:
     /// From the lowest to the highest.
     enum class Kind { LowLow, Low, High, HighHigh };
 
-    /// The measurement's property that holds the rows.
-    static const corvane::workbench::bindings::PropertyKey kListProperty;
+    [[nodiscard]] std::wstring kindText() const;
 
-    /// A limit within the range, which must outlive it.
-    AlarmLimit(const MeasuringRange& range, Kind kind, double threshold);
-    /// The same limit for another measurement.
-    AlarmLimit(const AlarmLimit& other, const MeasuringRange& range);
-
-    [[nodiscard]] Kind kind() const noexcept { return kind_; }
-    [[nodiscard]] double threshold() const noexcept { return threshold_; }
-
-    void load(corvane::utils::json::decoder::Value& value);
-    void saveTo(corvane::utils::json::encoder::Array& array) const;
-    /// The measurement's range has changed.
-    void publishThresholdState() const;
-
-    [[nodiscard]] std::wstring displayName() const override;
-    void forEachEditableProperty(
-        corvane::utils::core::function_ref<void(const corvane::workbench::skill::EditableProperty&)>
-            callback) override;
+    Kind kind = Kind::High;
+    double threshold = 0;
 
 private:
-    void configureProperties(PropertyConfigurationContext& context) override;
+    void describe(kit::Form& form) override;
+    [[nodiscard]] kit::State thresholdState() const;
 
-    const MeasuringRange& range_;
-    Kind kind_;
-    double threshold_;
-    corvane::workbench::chrono::Duration delay_;
+    chrono::Duration delay_;
     std::string message_;
 };
-
-/// The limit's kind as shown to the user.
-[[nodiscard]] std::wstring kindText(AlarmLimit::Kind kind);
 
 } // namespace pump_station

@@ -1,42 +1,17 @@
 #pragma once
 
-#include <corvane/workbench/bindings/PropertyKey.hpp>
+#include "names.hpp"
+#include <corvane/workbench/kit/Form.hpp>
+#include <corvane/workbench/kit/Row.hpp>
 #include <corvane/workbench/process/TaskReference.hpp>
-#include <corvane/workbench/skill/SubElement.hpp>
-
-#include <string>
-
-namespace corvane::utils::json::decoder {
-class Value;
-}
-namespace corvane::utils::json::encoder {
-class Array;
-}
-namespace corvane::workbench::config {
-class Context;
-}
 
 namespace pump_station {
 
-/// A row in the list of the tasks that a timer triggers.
-class TriggeredTask final : public corvane::workbench::skill::SubElement {
-public:
-    /// The element's property that holds the rows.
-    static const corvane::workbench::bindings::PropertyKey kListProperty;
+/// A row in the list of the tasks that a timer triggers. In files it is the task's key alone.
+class TriggeredTask final : public kit::Row {
+    void describe(kit::Form& form) override;
 
-    void load(corvane::utils::json::decoder::Value& value,
-              corvane::workbench::config::Context& context);
-    void saveTo(corvane::utils::json::encoder::Array& array) const;
-
-    [[nodiscard]] std::wstring displayName() const override;
-    void forEachEditableProperty(
-        corvane::utils::core::function_ref<void(const corvane::workbench::skill::EditableProperty&)>
-            callback) override;
-
-private:
-    void configureProperties(PropertyConfigurationContext& context) override;
-
-    corvane::workbench::process::TaskReference task_;
+    process::TaskReference task_;
 };
 
 } // namespace pump_station

@@ -1,18 +1,13 @@
 #pragma once
 
-// The catalogue of this skill: every element class, with its id in configuration files, its
-// category and what it may hold. The objects live as long as the library is loaded.
+// The element classes to which others refer.
 
-#include <span>
+#include "Pump.hpp"
+#include "names.hpp"
+#include <corvane/workbench/kit/ElementClass.hpp>
 
 namespace pump_station {
 
-class ElementClass;
-
-/// All classes, in the order in which a user would look for them.
-[[nodiscard]] std::span<const ElementClass* const> allElementClasses();
-
-/// The class of pumps, for elements that accept only a pump.
-[[nodiscard]] const ElementClass& pumpClass();
+extern const kit::ElementClass<Pump> kPump;
 
 } // namespace pump_station

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <corvane/workbench/bindings/functional.hpp>
+#include <corvane/workbench/kit/Row.hpp>
+#include <corvane/workbench/kit/internal/RowList.hpp>
+
+#include <concepts>
+#include <cstddef>
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+namespace corvane::workbench::kit {
+
+/// The rows of a list setting: a field of the element, described with Form::rows. A copy has copies
+/// of the rows.
+///
+/// Rows are added while a file is read, and inserted, removed and moved by the user or by the
+/// skill. Whoever does it, error counts, addresses and notifications are right.
+template <class R>
+class Rows final : public internal::RowList {
+public:
+    using RowType = R;
+
+    /// Walks over the rows; good until one is inserted, removed or moved.
+    class Iterator {
+    public:
+        using value_type = R;
+        using difference_type = std::ptrdiff_t;
+
+        Iterator() noexcept = default;
+        [[nodiscard]] R& operator*() const noexcept { return (*rows_)[index_]; }
+        Iterator& operator++() noexcept {
+            ++index_;
+            return *this;
+        }
+        Iterator operator++(int) noexcept {
+            const Iterator before = *this;
+            ++index_;
+            return before;
+        }
+        [[nodiscard]] friend bool operator==(const Iterator&, const Iterator&) noexcept = default;
+
+    private:
+        friend class Rows;
+        Iterator(const Rows& rows, std::size_t index) noexcept : rows_(&rows), index_(index) {}
+
+        const Rows* rows_ = nullptr;
+        std::size_t index_ = 0;
+    };
+
+    Rows() = default;
+    Rows(const Rows& other) : RowList(other) {
+        for (const R& row : other) {
+            append(std::make_unique<R>(row));
+        }
+    }
+    Rows& operator=(const Rows&) = delete;
+    ~Rows() override = default;
+
+    [[nodiscard]] R& operator[](std::size_t index) const noexcept {
+        return static_cast<R&>(rowAt(index));
+    }
+    [[nodiscard]] Iterator begin() const noexcept { return Iterator(*this, 0); }
+    [[nodiscard]] Iterator end() const noexcept { return Iterator(*this, size()); }
+
+    /// Inserts a new row before the index, with its initial values and what the list proposes, and
+    /// publishes the list. Throws std::out_of_range beyond the end.
+    R& insert(std::size_t index) { return static_cast<R&>(insertRow(index)); }
+    /// Removes the row and publishes the list. Throws std::out_of_range for a row that is not
+    /// there.
+    void remove(std::size_t index) { removeRow(index); }
+    /// Moves a row to another index, where it stands afterwards, and publishes the list. Throws
+    /// std::out_of_range for an index that is not there.
+    void move(std::size_t from, std::size_t to) { moveRow(from, to); }
+
+    /// The number that continues the numbers in this field of the rows at an index, which is at
+    /// most the number of rows: one step after the row before, or before the first row.
+    template <class Number, class Step>
+    [[nodiscard]] Number next(Number R::* field, std::size_t index, Step step) const {
+        using Listed = std::conditional_t<std::same_as<Number, int>, int, double>;
+        using Stepped = std::conditional_t<std::integral<Step>, int, double>;
+        std::vector<Listed> values;
+        for (const R& row : *this) {
+            // The new row itself is not in the list yet.
+            values.push_back(static_cast<Listed>(row.*field));
+        }
+        return static_cast<Number>(
+            bindings::functional::Offset<Stepped>(static_cast<Stepped>(step))(values, index));
+    }
+
+private:
+    [[nodiscard]] std::unique_ptr<Row> makeRow() const override { return std::make_unique<R>(); }
+};
+
+} // namespace corvane::workbench::kit

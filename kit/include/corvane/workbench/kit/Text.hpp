@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string_view>
+
+namespace corvane::workbench::kit {
+
+/// A text (UTF-8) that stands in the source as a literal. It lives as long as the skill's library,
+/// so descriptions can keep it without a copy. What the user reads of it is translated.
+class Text {
+public:
+    constexpr Text() noexcept = default;
+    // NOLINTNEXTLINE(google-explicit-constructor): literals are written as they are
+    consteval Text(const char* literal) : text_(literal) {}
+
+    [[nodiscard]] constexpr const char* data() const noexcept { return text_; }
+    [[nodiscard]] constexpr bool empty() const noexcept { return *text_ == '\0'; }
+    // NOLINTNEXTLINE(google-explicit-constructor): is one
+    constexpr operator std::string_view() const noexcept { return text_; }
+
+private:
+    const char* text_ = "";
+};
+
+} // namespace corvane::workbench::kit

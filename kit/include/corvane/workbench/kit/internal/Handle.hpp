@@ -1,0 +1,63 @@
+#pragma once
+
+#include <corvane/workbench/bindings/CrossReferenceController.hpp>
+#include <corvane/workbench/bindings/PropertyContainer.hpp>
+#include <corvane/workbench/bindings/PropertyId.hpp>
+#include <corvane/workbench/kit/internal/Description.hpp>
+#include <corvane/workbench/kit/internal/fieldId.hpp>
+
+#include <cstdint>
+#include <type_traits>
+#include <vector>
+
+namespace corvane::workbench::kit {
+class Form;
+}
+
+namespace corvane::workbench::kit::internal {
+
+/// What is being described, for those who say more about it. A small value, good until the next
+/// thing is described; as a dependency it stays good for the whole description.
+class Handle {
+public:
+    [[nodiscard]] const bindings::PropertyId& property() const noexcept { return property_; }
+
+protected:
+    explicit Handle(Form& form) noexcept;
+
+    /// Throws std::logic_error when the next thing is being described already.
+    [[nodiscard]] Description& description() const;
+    [[nodiscard]] Purpose purpose() const noexcept;
+
+    /// Whether the form wants to know what depends on what.
+    [[nodiscard]] bool wantsDependencies() const noexcept {
+        return purpose() == Purpose::Configure || purpose() == Purpose::Check;
+    }
+    /// Adds the properties of what something depends on: fields or handles.
+    template <class... Dependencies>
+    void add(std::vector<bindings::PropertyId>& list, const Dependencies&... dependencies) const {
+        (list.push_back(idOf(dependencies)), ...);
+    }
+    template <class T>
+    [[nodiscard]] bindings::PropertyId idOf(const T& dependency) const {
+        if constexpr (std::is_base_of_v<Handle, T>) {
+            return dependency.property();
+        } else {
+            return fieldId(owner(), &dependency);
+        }
+    }
+    /// Whether a field is changed by others than its editor: references and lists of rows are.
+    template <class T>
+    static constexpr bool kChangesByItself =
+        std::is_base_of_v<bindings::CrossReferenceController, T> ||
+        std::is_base_of_v<bindings::PropertyContainer, T>;
+
+private:
+    [[nodiscard]] const bindings::PropertyController& owner() const noexcept;
+
+    Form* form_;
+    std::uint32_t serial_;
+    bindings::PropertyId property_;
+};
+
+} // namespace corvane::workbench::kit::internal

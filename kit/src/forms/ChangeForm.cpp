@@ -1,0 +1,37 @@
+#include "ChangeForm.hpp"
+
+#include <corvane/workbench/bindings/Action.hpp>
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane::workbench::kit::internal {
+
+void ChangeForm::follow() {
+    fillIn();
+    for (const auto& action : actions_) {
+        action();
+    }
+    if (membersDepend_) {
+        subject().type->publishMembers(owner());
+    }
+}
+
+void ChangeForm::take(Description& description) {
+    if (description.subject == Description::Subject::Setting) {
+        if (description.property == property_) {
+            actions_ = std::move(description.actions);
+        }
+    } else {
+        membersDepend_ =
+            membersDepend_ || std::ranges::find(description.memberDependencies, property_) !=
+                                  description.memberDependencies.end();
+    }
+}
+
+void publishChange(const Subject& subject, const bindings::PropertyId& property) {
+    subject.controller->publish(property, bindings::Action::Update, 0);
+    ChangeForm(subject, property).follow();
+}
+
+} // namespace corvane::workbench::kit::internal

@@ -1,0 +1,120 @@
+#include "ConfiguringForm.hpp"
+
+#include <corvane/workbench/kit/internal/fieldId.hpp>
+#include <corvane/workbench/skill/SubElement.hpp>
+
+#include <utility>
+
+namespace corvane::workbench::kit::internal {
+
+namespace {
+
+// Small enough for a std::function to hold without an allocation; likewise the next one.
+struct KindRule {
+    const SettingKind* kind;
+    void* address;
+
+    State operator()() const { return kind->check({.address = address}); }
+};
+
+struct OptionalKindRule {
+    const SettingKind* kind;
+    void* address;
+
+    State operator()() const {
+        const Field field{.address = address};
+        return kind->isEmpty(field) ? State() : kind->check(field);
+    }
+};
+
+std::function<State()> stateOf(Description& description) {
+    std::vector<std::function<State()>>& rules = description.rules;
+    const Field& field = description.field;
+    if (field.kind != nullptr && field.kind->checks()) {
+        // What is required comes first, so that an empty reference is told by the skill's words.
+        std::function<State()> rule =
+            description.isOptional
+                ? std::function<State()>(OptionalKindRule{field.kind, field.address})
+                : std::function<State()>(KindRule{field.kind, field.address});
+        rules.insert(rules.begin() + (description.isRequired ? 1 : 0), std::move(rule));
+    }
+    if (rules.size() < 2) {
+        return rules.empty() ? std::function<State()>() : std::move(rules.front());
+    }
+    return [rules = std::move(rules)] {
+        for (const auto& rule : rules) {
+            if (State state = rule(); !state) {
+                return state;
+            }
+        }
+        return State();
+    };
+}
+
+} // namespace
+
+void ConfiguringForm::configure() {
+    fillIn();
+    if (subject().isRow() && !hasDisplayName_ && first_) {
+        configureDisplayName({first_});
+    }
+    if (!memberDependencies_.empty()) {
+        context_.configure(memberTrigger(), {.valueDependencies = memberDependencies_});
+    }
+}
+
+bindings::PropertyId ConfiguringForm::memberTrigger() const noexcept {
+    return memberDependencies_.empty() ? bindings::PropertyId() : nameId(".members");
+}
+
+void ConfiguringForm::take(Description& description) {
+    using enum Description::Subject;
+    if (description.subject == DisplayName) {
+        hasDisplayName_ = true;
+        configureDisplayName(description.valueDependencies);
+        return;
+    }
+    if (description.subject != Setting && description.subject != Derived) {
+        memberDependencies_.insert(memberDependencies_.end(),
+                                   description.memberDependencies.begin(),
+                                   description.memberDependencies.end());
+        return;
+    }
+    if (!first_) {
+        first_ = description.property;
+    }
+    if (subject().isRow() && description.subject == Setting) {
+        description.raisedProperties.push_back(rowChangedId());
+    }
+    std::function<State()> state = stateOf(description);
+    if (description.rows != nullptr) {
+        description.rows->link();
+        description.classified.subPropertyContainer = description.rows;
+        if (state) {
+            // A rule of a list looks at its rows, whose changes publish the list.
+            description.stateDependencies.push_back(description.property);
+        }
+    }
+    const bool behaves = state || description.visibility ||
+                         !description.valueDependencies.empty() ||
+                         !description.raisedProperties.empty() ||
+                         description.classified.subPropertyContainer != nullptr ||
+                         description.classified.crossReferenceController != nullptr;
+    if (behaves) {
+        context_.configure(description.property,
+                           {.valueDependencies = description.valueDependencies,
+                            .state = std::move(state),
+                            .stateDependencies = description.stateDependencies,
+                            .visibility = std::move(description.visibility),
+                            .visibilityDependencies = description.visibilityDependencies,
+                            .raisedProperties = description.raisedProperties},
+                           description.classified);
+    }
+}
+
+void ConfiguringForm::configureDisplayName(const std::vector<bindings::PropertyId>& dependencies) {
+    const auto& row = static_cast<const skill::SubElement&>(owner());
+    context_.configure(row.displayNamePropertyId(), {.valueDependencies = dependencies});
+}
+
+} // namespace corvane::workbench::kit::internal
