@@ -103,14 +103,21 @@ std::optional<PropertyAddress> findProperty(const Workbench& workbench, std::str
     return result;
 }
 
-std::string propertyNotFound(const Workbench& workbench, std::string_view address) {
-    std::string result = inQuotes(address) + " names no property of an element";
+std::optional<PropertyAddress> splitAddress(const Workbench& workbench, std::string_view address) {
+    std::optional<PropertyAddress> result;
     forEachElementOf(workbench, address, [&](ElementNode& element, std::string_view path) {
-        result =
-            "the element " + inQuotes(element.primaryKey()) + " has no property " + inQuotes(path);
+        result = PropertyAddress{&element, std::string(path)};
         return true;
     });
     return result;
+}
+
+std::string propertyNotFound(const Workbench& workbench, std::string_view address) {
+    if (const auto parts = splitAddress(workbench, address)) {
+        return "the element " + inQuotes(onOneLine(parts->element->primaryKey())) +
+               " has no property " + inQuotes(onOneLine(parts->path));
+    }
+    return inQuotes(onOneLine(address)) + " names no property of an element";
 }
 
 void withProperty(const PropertyAddress& address, Callback callback) {

@@ -82,7 +82,10 @@ bool Bench::has(std::string_view key) const {
 }
 
 Setting Bench::at(std::string_view address) {
-    const auto found = host::findProperty(workbench_, address);
+    auto found = host::findProperty(workbench_, address);
+    if (!found) {
+        found = host::splitAddress(workbench_, address);
+    }
     if (!found) {
         throw std::out_of_range(host::propertyNotFound(workbench_, address));
     }

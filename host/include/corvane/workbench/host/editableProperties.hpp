@@ -49,7 +49,12 @@ struct PropertyAddress {
 [[nodiscard]] std::optional<PropertyAddress> findProperty(const Workbench& workbench,
                                                           std::string_view address);
 
-/// Why there is none, in a sentence for the user.
+/// The longest beginning of the address that is the key of an element, and what stands behind it.
+/// Nothing if there is none.
+[[nodiscard]] std::optional<PropertyAddress> splitAddress(const Workbench& workbench,
+                                                          std::string_view address);
+
+/// Why there is no such property, in a sentence for the user.
 [[nodiscard]] std::string propertyNotFound(const Workbench& workbench, std::string_view address);
 
 /// Calls back with the property of that path.
