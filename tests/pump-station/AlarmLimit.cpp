@@ -3,52 +3,49 @@
 
 namespace {
 
-using pump_station::tests::PumpStationTest;
-using testing::ElementsAre;
+using namespace pump_station::tests;
 namespace bindings = corvane::workbench::bindings;
 namespace skill = corvane::workbench::skill;
 
-constexpr std::string_view kLevel = "PLC.Level";
-
 class AlarmLimit : public PumpStationTest {
 protected:
-    AlarmLimit() {
-        add("", "PumpStation.Controller", "PLC");
-        add("PLC", "PumpStation.Measurement", "Level");
-        EXPECT_EQ(insertRow(kLevel, "alarmLimits", 0), "");
-    }
+    BenchElement level =
+        bench.add("PumpStation.Controller", "PLC").add("PumpStation.Measurement", "Level");
+
+    AlarmLimit() { level.at("alarmLimits").insertRow(0); }
 };
 
 TEST_F(AlarmLimit, NeedsAMessage) {
-    EXPECT_EQ(state(kLevel, "alarmLimits.0.message"), "Enter the message that the operator reads.");
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.message", "Tank is full"), "");
-    EXPECT_EQ(state(kLevel, "alarmLimits.0.message"), "");
+    EXPECT_THAT(level.at("alarmLimits[0].message"),
+                HasError("Enter the message that the operator reads."));
+    level.at("alarmLimits[0].message").set("Tank is full");
+    EXPECT_THAT(level.at("alarmLimits[0].message"), IsOk());
 }
 
 TEST_F(AlarmLimit, NeedsAThresholdWithinTheRange) {
     for (const char* threshold : {"-0.5", "10.5"}) {
-        EXPECT_EQ(set(kLevel, "alarmLimits.0.threshold", threshold), "");
-        EXPECT_EQ(state(kLevel, "alarmLimits.0.threshold"),
-                  "The threshold must lie within the measuring range, 0 to 10.");
+        level.at("alarmLimits[0].threshold").set(threshold);
+        EXPECT_THAT(level.at("alarmLimits[0].threshold"),
+                    HasError("The threshold must lie within the measuring range, 0 to 10."));
     }
     for (const char* threshold : {"0", "10"}) {
-        EXPECT_EQ(set(kLevel, "alarmLimits.0.threshold", threshold), "");
-        EXPECT_EQ(state(kLevel, "alarmLimits.0.threshold"), "");
+        level.at("alarmLimits[0].threshold").set(threshold);
+        EXPECT_THAT(level.at("alarmLimits[0].threshold"), IsOk());
     }
 }
 
 TEST_F(AlarmLimit, NeedsADelayThatIsNotNegative) {
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.delay", "-1ms"), "");
-    EXPECT_EQ(state(kLevel, "alarmLimits.0.delay"), "The delay must not be negative.");
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.delay", "0"), "");
-    EXPECT_EQ(state(kLevel, "alarmLimits.0.delay"), "");
+    level.at("alarmLimits[0].delay").set("-1ms");
+    EXPECT_THAT(level.at("alarmLimits[0].delay"), HasError("The delay must not be negative."));
+    level.at("alarmLimits[0].delay").set("0");
+    EXPECT_THAT(level.at("alarmLimits[0].delay"), IsOk());
 }
 
 TEST_F(AlarmLimit, IsNamedAfterItsKindAndThreshold) {
-    EXPECT_THAT(rows(kLevel, "alarmLimits"), ElementsAre("high at 0"));
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.kind", "low-low"), "");
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.threshold", "0.25"), "");
-    EXPECT_THAT(rows(kLevel, "alarmLimits"), ElementsAre("low-low at 0.25"));
+    EXPECT_THAT(level.at("alarmLimits"), HasRows("high at 0"));
+    level.at("alarmLimits[0].kind").set("low-low");
+    level.at("alarmLimits[0].threshold").set("0.25");
+    EXPECT_THAT(level.at("alarmLimits"), HasRows("low-low at 0.25"));
 }
 
 TEST_F(AlarmLimit, TellsThatItsNameHasChanged) {
@@ -61,19 +58,20 @@ TEST_F(AlarmLimit, TellsThatItsNameHasChanged) {
                            .state = {},
                            .visibility = {}}));
     };
-    property(kLevel, "alarmLimits").forEachSubElement(subscribe);
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.kind", "low"), "");
+    level.at("alarmLimits").property().forEachSubElement(subscribe);
+    level.at("alarmLimits[0].kind").set("low");
     EXPECT_EQ(changes, 1);
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.threshold", "3"), "");
+    level.at("alarmLimits[0].threshold").set("3");
     EXPECT_EQ(changes, 2);
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.message", "Tank is low"), "");
+    level.at("alarmLimits[0].message").set("Tank is low");
     EXPECT_EQ(changes, 2);
 }
 
 TEST_F(AlarmLimit, OffersItsKinds) {
-    EXPECT_THAT(property(kLevel, "alarmLimits.0.kind").choices,
-                ElementsAre(L"low-low", L"low", L"high", L"high-high"));
-    EXPECT_EQ(set(kLevel, "alarmLimits.0.kind", "highest"), "“highest” is not one of the choices.");
+    EXPECT_THAT(level.at("alarmLimits[0].kind").choices(),
+                ElementsAre("low-low", "low", "high", "high-high"));
+    EXPECT_THAT(level.at("alarmLimits[0].kind"),
+                Refuses("highest", "“highest” is not one of the choices."));
 }
 
 } // namespace

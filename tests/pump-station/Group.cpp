@@ -2,38 +2,34 @@
 
 namespace {
 
-using pump_station::tests::PumpStationTest;
-using testing::ElementsAre;
+using namespace pump_station::tests;
 
-class Group : public PumpStationTest {};
+class Group : public PumpStationTest {
+protected:
+    BenchElement intake = bench.add("PumpStation.Area", "Intake");
+};
 
 TEST_F(Group, StartsWithAHintAndIsValid) {
-    add("", "PumpStation.Area", "Intake");
-    EXPECT_THAT(propertyNames("Intake"), ElementsAre("description"));
-    EXPECT_EQ(text("Intake", "description"), "Describe what belongs here.");
-    EXPECT_EQ(errorCount(), 0U);
+    EXPECT_THAT(intake.settings(), ElementsAre("description"));
+    EXPECT_THAT(intake.at("description"), HasText("Describe what belongs here."));
+    EXPECT_THAT(bench, HasErrors(0));
 }
 
 TEST_F(Group, KeepsItsDescription) {
-    add("", "PumpStation.Area", "Intake");
-    EXPECT_EQ(set("Intake", "description", "Wehr am Mühlbach"), "");
-    EXPECT_TRUE(loadText(saved()));
-    EXPECT_EQ(text("Intake", "description"), "Wehr am Mühlbach");
+    intake.at("description").set("Wehr am Mühlbach");
+    bench.load(bench.saved());
+    EXPECT_THAT(intake.at("description"), HasText("Wehr am Mühlbach"));
 }
 
 TEST_F(Group, TellsWhoWatchesTheDescription) {
-    add("", "PumpStation.Area", "Intake");
-    // A property without rules is known to the element only once somebody asks for it.
-    record("Intake", "description");
-    EXPECT_EQ(set("Intake", "description", "Weir"), "");
-    EXPECT_THAT(calls, ElementsAre("description value Update 0"));
+    intake.at("description").set("Weir");
+    EXPECT_THAT(bench, Announced("value       Intake.description: Weir"));
 }
 
 TEST_F(Group, HasNoMembersOfItsOwn) {
-    add("", "PumpStation.Area", "Intake");
-    EXPECT_THAT(attributes("Intake"), testing::IsEmpty());
-    EXPECT_THAT(events("Intake"), testing::IsEmpty());
-    EXPECT_THAT(tasks("Intake"), testing::IsEmpty());
+    EXPECT_THAT(intake.attributes(), IsEmpty());
+    EXPECT_THAT(intake.events(), IsEmpty());
+    EXPECT_THAT(intake.tasks(), IsEmpty());
 }
 
 } // namespace

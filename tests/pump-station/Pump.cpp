@@ -1,121 +1,106 @@
 #include "PumpStationTest.hpp"
-#include <corvane/workbench/host/Observer.hpp>
 
 namespace {
 
-using pump_station::tests::PumpStationTest;
-using testing::ElementsAre;
-using testing::HasSubstr;
-namespace host = corvane::workbench::host;
-
-constexpr std::string_view kPump = "PLC.[Pump 1.1]";
+using namespace pump_station::tests;
 
 class Pump : public PumpStationTest {
 protected:
-    Pump() {
-        add("", "PumpStation.Controller", "PLC");
-        add("PLC", "PumpStation.Pump", "[Pump 1.1]");
-    }
+    BenchElement plc = bench.add("PumpStation.Controller", "PLC");
+    BenchElement pump = plc.add("PumpStation.Pump", "[Pump 1.1]");
 };
 
 TEST_F(Pump, StartsValid) {
-    EXPECT_THAT(propertyNames(kPump),
-                ElementsAre("drive", "ratedPower", "ratedFlow", "specificEnergy", "minimumSpeed",
-                            "maximumSpeed"));
-    EXPECT_EQ(text(kPump, "drive"), "fixed speed");
-    EXPECT_EQ(text(kPump, "ratedPower"), "7.5");
-    EXPECT_EQ(text(kPump, "ratedFlow"), "50");
-    EXPECT_EQ(errorCount(), 0U);
+    EXPECT_THAT(pump.settings(), ElementsAre("drive", "ratedPower", "ratedFlow", "specificEnergy",
+                                             "minimumSpeed", "maximumSpeed"));
+    EXPECT_THAT(pump.at("drive"), HasText("fixed speed"));
+    EXPECT_THAT(pump.at("ratedPower"), HasText("7.5"));
+    EXPECT_THAT(pump.at("ratedFlow"), HasText("50"));
+    EXPECT_THAT(bench, HasErrors(0));
 }
 
 TEST_F(Pump, NeedsARatedPower) {
-    EXPECT_EQ(set(kPump, "ratedPower", "0"), "");
-    EXPECT_EQ(state(kPump, "ratedPower"), "The rated power must be greater than 0 kW.");
+    pump.at("ratedPower").set("0");
+    EXPECT_THAT(pump.at("ratedPower"), HasError("The rated power must be greater than 0 kW."));
 }
 
 TEST_F(Pump, NeedsARatedFlow) {
-    EXPECT_EQ(set(kPump, "ratedFlow", "-1"), "");
-    EXPECT_EQ(state(kPump, "ratedFlow"), "The rated flow must be greater than 0 m³/h.");
+    pump.at("ratedFlow").set("-1");
+    EXPECT_THAT(pump.at("ratedFlow"), HasError("The rated flow must be greater than 0 m³/h."));
 }
 
 TEST_F(Pump, ShowsTheSpecificEnergyThatFollowsFromPowerAndFlow) {
-    record(kPump, "specificEnergy");
-    EXPECT_FALSE(property(kPump, "specificEnergy").setText);
-    EXPECT_EQ(text(kPump, "specificEnergy"), "0.15");
-    EXPECT_EQ(set(kPump, "ratedPower", "22"), "");
-    EXPECT_EQ(text(kPump, "specificEnergy"), "0.44");
-    EXPECT_EQ(set(kPump, "ratedFlow", "0"), "");
-    EXPECT_EQ(text(kPump, "specificEnergy"), "unknown");
-    EXPECT_THAT(calls,
-                ElementsAre("specificEnergy value Update 0", "specificEnergy value Update 0"));
+    EXPECT_TRUE(pump.at("specificEnergy").readOnly());
+    EXPECT_THAT(pump.at("specificEnergy"), HasText("0.15"));
+    pump.at("ratedPower").set("22");
+    EXPECT_THAT(pump.at("specificEnergy"), HasText("0.44"));
+    EXPECT_THAT(bench, Announced(R"(
+        value       PLC.[Pump 1.1].ratedPower: 22
+        value       PLC.[Pump 1.1].specificEnergy: 0.44)"));
+    pump.at("ratedFlow").set("0");
+    EXPECT_THAT(pump.at("specificEnergy"), HasText("unknown"));
+    EXPECT_THAT(pump.at("specificEnergy"),
+                Announced("value       PLC.[Pump 1.1].specificEnergy: unknown"));
 }
 
 TEST_F(Pump, ShowsSpeedsOnlyWithAVariableDrive) {
-    EXPECT_FALSE(visible(kPump, "minimumSpeed"));
-    EXPECT_FALSE(visible(kPump, "maximumSpeed"));
-    EXPECT_EQ(set(kPump, "drive", "variable speed"), "");
-    EXPECT_TRUE(visible(kPump, "minimumSpeed"));
-    EXPECT_TRUE(visible(kPump, "maximumSpeed"));
-    EXPECT_EQ(text(kPump, "minimumSpeed"), "600");
-    EXPECT_EQ(text(kPump, "maximumSpeed"), "1450");
+    EXPECT_THAT(pump.at("minimumSpeed"), IsHidden());
+    EXPECT_THAT(pump.at("maximumSpeed"), IsHidden());
+    pump.at("drive").set("variable speed");
+    EXPECT_THAT(pump.at("minimumSpeed"), IsVisible());
+    EXPECT_THAT(pump.at("maximumSpeed"), IsVisible());
+    EXPECT_THAT(pump.at("minimumSpeed"), HasText("600"));
+    EXPECT_THAT(pump.at("maximumSpeed"), HasText("1450"));
 }
 
 TEST_F(Pump, NeedsSpeedsInOrder) {
-    EXPECT_EQ(set(kPump, "drive", "variable speed"), "");
-    EXPECT_EQ(set(kPump, "minimumSpeed", "-1"), "");
-    EXPECT_EQ(state(kPump, "minimumSpeed"), "The minimum speed must not be negative.");
-    EXPECT_EQ(set(kPump, "minimumSpeed", "1450"), "");
-    EXPECT_EQ(state(kPump, "minimumSpeed"), "");
-    EXPECT_EQ(state(kPump, "maximumSpeed"), "The maximum speed must lie above the minimum speed.");
-    EXPECT_EQ(errorCount(), 1U);
-    EXPECT_EQ(set(kPump, "drive", "fixed speed"), "");
-    EXPECT_EQ(errorCount(), 0U);
+    pump.at("drive").set("variable speed");
+    pump.at("minimumSpeed").set("-1");
+    EXPECT_THAT(pump.at("minimumSpeed"), HasError("The minimum speed must not be negative."));
+    pump.at("minimumSpeed").set("1450");
+    EXPECT_THAT(pump.at("minimumSpeed"), IsOk());
+    EXPECT_THAT(pump.at("maximumSpeed"),
+                HasError("The maximum speed must lie above the minimum speed."));
+    EXPECT_THAT(bench, HasErrors(1));
+    pump.at("drive").set("fixed speed");
+    EXPECT_THAT(bench, HasErrors(0));
 }
 
 TEST_F(Pump, SavesSpeedsOnlyWithAVariableDrive) {
-    EXPECT_THAT(saved(), testing::Not(HasSubstr("Speed\"")));
-    EXPECT_EQ(set(kPump, "drive", "variable speed"), "");
-    EXPECT_THAT(saved(), HasSubstr("\"minimumSpeed\": 600,\n"));
-    EXPECT_THAT(saved(), HasSubstr("\"maximumSpeed\": 1450\n"));
+    EXPECT_THAT(bench.saved(), Not(HasSubstr("Speed\"")));
+    pump.at("drive").set("variable speed");
+    EXPECT_THAT(bench.saved(), HasSubstr("\"minimumSpeed\": 600,\n"));
+    EXPECT_THAT(bench.saved(), HasSubstr("\"maximumSpeed\": 1450\n"));
 }
 
 TEST_F(Pump, OffersItsMembers) {
-    EXPECT_THAT(attributes(kPump),
+    EXPECT_THAT(pump.attributes(),
                 ElementsAre("deviceState", "power", "[vibration.x]", "[vibration.y]"));
-    EXPECT_THAT(events(kPump), ElementsAre("started", "stopped", "tripped"));
-    EXPECT_THAT(tasks(kPump), ElementsAre("start", "stop"));
-    EXPECT_EQ(set(kPump, "drive", "variable speed"), "");
-    EXPECT_THAT(attributes(kPump),
+    EXPECT_THAT(pump.events(), ElementsAre("started", "stopped", "tripped"));
+    EXPECT_THAT(pump.tasks(), ElementsAre("start", "stop"));
+    pump.at("drive").set("variable speed");
+    EXPECT_THAT(pump.attributes(),
                 ElementsAre("deviceState", "power", "[vibration.x]", "[vibration.y]", "speed"));
 }
 
 TEST_F(Pump, AnnouncesTheSpeedThatComesWithAVariableDrive) {
-    class MembersObserver final : public host::Observer {
-    public:
-        void elementMembersChanged(const host::ElementNode& element) override {
-            keys.push_back(element.primaryKey());
-        }
-        std::vector<std::string> keys;
-    } observer;
-    workbench.addObserver(observer);
-    EXPECT_EQ(set(kPump, "ratedPower", "5"), "");
-    EXPECT_THAT(observer.keys, testing::IsEmpty());
-    EXPECT_EQ(set(kPump, "drive", "variable speed"), "");
-    workbench.removeObserver(observer);
-    EXPECT_THAT(observer.keys, ElementsAre("PLC.[Pump 1.1]"));
+    pump.at("ratedPower").set("5");
+    EXPECT_THAT(bench.announced(), Not(Contains(HasSubstr("members"))));
+    pump.at("drive").set("variable speed");
+    EXPECT_THAT(bench.announced(), Contains("members     PLC.[Pump 1.1]"));
 }
 
 TEST_F(Pump, MakesReferencesToItsSpeedComeAndGoWithTheDrive) {
-    add("", "PumpStation.PumpBalancer", "Balancer");
-    EXPECT_EQ(insertRow("Balancer", "inputs", 0), "");
-    EXPECT_EQ(refer("Balancer", "inputs.0.attribute", "PLC.[Pump 1.1].speed"), "");
-    EXPECT_EQ(state("Balancer", "inputs.0.attribute"),
-              "the element “PLC.[Pump 1.1]” does not have an attribute named “speed”");
-    EXPECT_EQ(set(kPump, "drive", "variable speed"), "");
-    EXPECT_EQ(state("Balancer", "inputs.0.attribute"), "");
-    EXPECT_EQ(set(kPump, "drive", "fixed speed"), "");
-    EXPECT_EQ(state("Balancer", "inputs.0.attribute"),
-              "the element “PLC.[Pump 1.1]” does not have an attribute named “speed”");
+    const BenchElement balancer = bench.add("PumpStation.PumpBalancer", "Balancer");
+    balancer.at("inputs").insertRow(0);
+    balancer.at("inputs[0].attribute").set("PLC.[Pump 1.1].speed");
+    EXPECT_THAT(balancer.at("inputs[0].attribute"),
+                HasError("the element “PLC.[Pump 1.1]” does not have an attribute named “speed”"));
+    pump.at("drive").set("variable speed");
+    EXPECT_THAT(balancer.at("inputs[0].attribute"), IsOk());
+    pump.at("drive").set("fixed speed");
+    EXPECT_THAT(balancer.at("inputs[0].attribute"),
+                HasError("the element “PLC.[Pump 1.1]” does not have an attribute named “speed”"));
 }
 
 } // namespace

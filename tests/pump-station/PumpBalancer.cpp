@@ -3,99 +3,100 @@
 
 namespace {
 
-using pump_station::tests::PumpStationTest;
-using pump_station::tests::savedSettings;
-using testing::ElementsAre;
+using namespace pump_station::tests;
 namespace skill = corvane::workbench::skill;
 
 class PumpBalancer : public PumpStationTest {
 protected:
-    PumpBalancer() {
-        add("", "PumpStation.Controller", "PLC");
-        add("PLC", "PumpStation.Pump", "[Pump 1.1]");
-        add("", "PumpStation.PumpBalancer", "Balancer");
-    }
+    BenchElement plc = bench.add("PumpStation.Controller", "PLC");
+    BenchElement pump = plc.add("PumpStation.Pump", "[Pump 1.1]");
+    BenchElement balancer = bench.add("PumpStation.PumpBalancer", "Balancer");
+
     /// Makes the balancer valid.
     void complete() {
-        EXPECT_EQ(refer("Balancer", "pump", "PLC.[Pump 1.1]"), "");
-        EXPECT_EQ(insertRow("Balancer", "inputs", 0), "");
-        EXPECT_EQ(refer("Balancer", "inputs.0.attribute", "PLC.[Pump 1.1].power"), "");
-        EXPECT_EQ(errorCount(), 0U);
+        balancer.at("pump").set("PLC.[Pump 1.1]");
+        balancer.at("inputs").insertRow(0);
+        balancer.at("inputs[0].attribute").set("PLC.[Pump 1.1].power");
+        EXPECT_THAT(bench, HasErrors(0));
     }
 };
 
 TEST_F(PumpBalancer, StartsWithoutPumpAndInputs) {
-    EXPECT_THAT(propertyNames("Balancer"), ElementsAre("pump", "gain", "inputs"));
-    EXPECT_EQ(text("Balancer", "gain"), "1");
-    EXPECT_EQ(state("Balancer", "pump"), "empty element key");
-    EXPECT_EQ(state("Balancer", "inputs"), "Add an attribute to weigh up.");
-    EXPECT_EQ(errorCount(), 2U);
+    EXPECT_THAT(balancer.settings(), ElementsAre("pump", "gain", "inputs"));
+    EXPECT_THAT(balancer.at("gain"), HasText("1"));
+    EXPECT_THAT(balancer.at("pump"), HasError("empty element key"));
+    EXPECT_THAT(balancer.at("inputs"), HasError("Add an attribute to weigh up."));
+    EXPECT_THAT(bench, HasErrors(2));
 }
 
 TEST_F(PumpBalancer, AcceptsPumpsOnly) {
-    EXPECT_EQ(refer("Balancer", "pump", "PLC"), "");
-    EXPECT_EQ(state("Balancer", "pump"), "The element “PLC” is not a pump.");
-    EXPECT_EQ(refer("Balancer", "pump", "PLC.[Pump 1.1]"), "");
-    EXPECT_EQ(state("Balancer", "pump"), "");
+    balancer.at("pump").set("PLC");
+    EXPECT_THAT(balancer.at("pump"), HasError("The element “PLC” is not a pump."));
+    balancer.at("pump").set("PLC.[Pump 1.1]");
+    EXPECT_THAT(balancer.at("pump"), IsOk());
 }
 
 TEST_F(PumpBalancer, SaysWhyItsPumpDoesNotResolve) {
-    EXPECT_EQ(refer("Balancer", "pump", "PLC.[Pump 1.2]"), "");
-    EXPECT_EQ(state("Balancer", "pump"),
-              "the element “PLC” does not have a child named “[Pump 1.2]”");
+    balancer.at("pump").set("PLC.[Pump 1.2]");
+    EXPECT_THAT(balancer.at("pump"),
+                HasError("the element “PLC” does not have a child named “[Pump 1.2]”"));
 }
 
 TEST_F(PumpBalancer, FindsAPumpThatTakesTheNameItWaitsFor) {
-    EXPECT_EQ(refer("Balancer", "pump", "PLC.[Pump 1.2]"), "");
-    record("Balancer", "pump");
-    add("PLC", "PumpStation.Valve", "[Pump 1.2]");
-    EXPECT_TRUE(workbench.remove("PLC.[Pump 1.2]"));
-    EXPECT_TRUE(workbench.rename("PLC.[Pump 1.1]", "[Pump 1.2]"));
-    EXPECT_THAT(calls,
-                ElementsAre("pump state The element “PLC.[Pump 1.2]” is not a pump.",
-                            "pump state the element “PLC” does not have a child named “[Pump 1.2]”",
-                            "pump state "));
+    balancer.at("pump").set("PLC.[Pump 1.2]");
+    const BenchElement valve = plc.add("PumpStation.Valve", "[Pump 1.2]");
+    EXPECT_THAT(balancer.at("pump"), HasError("The element “PLC.[Pump 1.2]” is not a pump."));
+    valve.remove();
+    EXPECT_THAT(balancer.at("pump"),
+                HasError("the element “PLC” does not have a child named “[Pump 1.2]”"));
+    pump.rename("[Pump 1.2]");
+    EXPECT_THAT(bench, Announced(R"(
+        renamed     PLC.[Pump 1.1] → PLC.[Pump 1.2]
+        resolution  Balancer.pump: PLC.[Pump 1.2]
+        state       Balancer.pump: ok
+        errors      Balancer: 1
+        errors      (root): 1)"));
 }
 
 TEST_F(PumpBalancer, NeedsAGain) {
-    EXPECT_EQ(set("Balancer", "gain", "0"), "");
-    EXPECT_EQ(state("Balancer", "gain"), "The gain must be greater than 0.");
+    balancer.at("gain").set("0");
+    EXPECT_THAT(balancer.at("gain"), HasError("The gain must be greater than 0."));
 }
 
 TEST_F(PumpBalancer, ListsReferencesOfEveryKindOfMember) {
     complete();
-    EXPECT_EQ(workbench.referencesTo(*workbench.findElement("PLC.[Pump 1.1]")).size(), 2U);
-    EXPECT_EQ(removeRow("Balancer", "inputs", 0), "");
-    EXPECT_EQ(workbench.referencesTo(*workbench.findElement("PLC.[Pump 1.1]")).size(), 1U);
+    EXPECT_EQ(bench.workbench().referencesTo(pump.node()).size(), 2U);
+    balancer.at("inputs").removeRow(0);
+    EXPECT_EQ(bench.workbench().referencesTo(pump.node()).size(), 1U);
 }
 
 TEST_F(PumpBalancer, IsKeptWithItsReferences) {
     complete();
-    const std::string written = saved();
-    EXPECT_TRUE(loadText(written));
-    EXPECT_EQ(errorCount(), 0U);
-    EXPECT_EQ(saved(), written);
+    const std::string written = bench.saved();
+    bench.load(written);
+    EXPECT_THAT(bench, HasErrors(0));
+    EXPECT_EQ(bench.saved(), written);
 }
 
 TEST_F(PumpBalancer, GivesACopyReferencesOfItsOwn) {
     complete();
-    const std::unique_ptr<skill::Element> copy =
-        workbench.elementClasses()
-            .find("PumpStation.PumpBalancer")
-            ->factory()
-            .copyElement(*workbench.findElement("Balancer")->skillElement());
-    EXPECT_EQ(workbench.referencesTo(*workbench.findElement("PLC.[Pump 1.1]")).size(), 4U);
-    EXPECT_TRUE(workbench.remove("Balancer"));
-    EXPECT_TRUE(workbench.rename("PLC.[Pump 1.1]", "Pump"));
+    const std::unique_ptr<skill::Element> copy = bench.workbench()
+                                                     .elementClasses()
+                                                     .find("PumpStation.PumpBalancer")
+                                                     ->factory()
+                                                     .copyElement(*balancer.node().skillElement());
+    EXPECT_EQ(bench.workbench().referencesTo(pump.node()).size(), 4U);
+    balancer.remove();
+    pump.rename("Pump");
     EXPECT_EQ(
         savedSettings(*copy),
         R"({"pump":"PLC.Pump","gain":1,"inputs":[{"attribute":"PLC.Pump.power","weight":1}]})");
 }
 
 TEST_F(PumpBalancer, OffersItsMembers) {
-    EXPECT_THAT(attributes("Balancer"), ElementsAre("output"));
-    EXPECT_THAT(events("Balancer"), testing::IsEmpty());
-    EXPECT_THAT(tasks("Balancer"), ElementsAre("rebalance"));
+    EXPECT_THAT(balancer.attributes(), ElementsAre("output"));
+    EXPECT_THAT(balancer.events(), IsEmpty());
+    EXPECT_THAT(balancer.tasks(), ElementsAre("rebalance"));
 }
 
 } // namespace

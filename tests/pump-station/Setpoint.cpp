@@ -2,100 +2,97 @@
 
 namespace {
 
-using pump_station::tests::PumpStationTest;
-using testing::ElementsAre;
-using testing::HasSubstr;
-
-constexpr std::string_view kTarget = "PLC.Target";
+using namespace pump_station::tests;
 
 class Setpoint : public PumpStationTest {
 protected:
-    Setpoint() {
-        add("", "PumpStation.Controller", "PLC");
-        add("PLC", "PumpStation.Setpoint", "Target");
-    }
+    BenchElement plc = bench.add("PumpStation.Controller", "PLC");
+    BenchElement target = plc.add("PumpStation.Setpoint", "Target");
 };
 
 TEST_F(Setpoint, StartsValid) {
-    EXPECT_THAT(propertyNames(kTarget),
+    EXPECT_THAT(target.settings(),
                 ElementsAre("unit", "rangeLow", "rangeHigh", "mode", "value", "event"));
-    EXPECT_EQ(text(kTarget, "mode"), "fixed");
-    EXPECT_EQ(text(kTarget, "value"), "0");
-    EXPECT_EQ(errorCount(), 0U);
+    EXPECT_THAT(target.at("mode"), HasText("fixed"));
+    EXPECT_THAT(target.at("value"), HasText("0"));
+    EXPECT_THAT(bench, HasErrors(0));
 }
 
 TEST_F(Setpoint, NeedsAUnit) {
-    EXPECT_EQ(set(kTarget, "unit", ""), "");
-    EXPECT_EQ(state(kTarget, "unit"), "Enter the unit of the wanted value.");
+    target.at("unit").set("");
+    EXPECT_THAT(target.at("unit"), HasError("Enter the unit of the wanted value."));
 }
 
 TEST_F(Setpoint, NeedsARangeThatIsNotEmpty) {
-    EXPECT_EQ(set(kTarget, "mode", "follow"), "");
-    EXPECT_EQ(refer(kTarget, "event", "PLC.connected"), "");
-    EXPECT_EQ(set(kTarget, "rangeLow", "10"), "");
-    EXPECT_EQ(state(kTarget, "rangeHigh"), "The highest value must lie above the lowest.");
-    EXPECT_EQ(errorCount(), 1U);
+    target.at("mode").set("follow");
+    target.at("event").set("PLC.connected");
+    target.at("rangeLow").set("10");
+    EXPECT_THAT(target.at("rangeHigh"), HasError("The highest value must lie above the lowest."));
+    EXPECT_THAT(bench, HasErrors(1));
 }
 
 TEST_F(Setpoint, NeedsAValueWithinTheRange) {
-    EXPECT_EQ(set(kTarget, "value", "10.5"), "");
-    EXPECT_EQ(state(kTarget, "value"), "The value must lie between 0 and 10.");
-    EXPECT_EQ(set(kTarget, "rangeHigh", "10.5"), "");
-    EXPECT_EQ(state(kTarget, "value"), "");
-    EXPECT_EQ(set(kTarget, "rangeLow", "10.6"), "");
-    EXPECT_EQ(state(kTarget, "value"), "The value must lie between 10.6 and 10.5.");
+    target.at("value").set("10.5");
+    EXPECT_THAT(target.at("value"), HasError("The value must lie between 0 and 10."));
+    target.at("rangeHigh").set("10.5");
+    EXPECT_THAT(target.at("value"), IsOk());
+    target.at("rangeLow").set("10.6");
+    EXPECT_THAT(target.at("value"), HasError("The value must lie between 10.6 and 10.5."));
 }
 
 TEST_F(Setpoint, ShowsEitherTheValueOrTheEvent) {
-    EXPECT_TRUE(visible(kTarget, "value"));
-    EXPECT_FALSE(visible(kTarget, "event"));
-    EXPECT_EQ(set(kTarget, "mode", "follow"), "");
-    EXPECT_FALSE(visible(kTarget, "value"));
-    EXPECT_TRUE(visible(kTarget, "event"));
+    EXPECT_THAT(target.at("value"), IsVisible());
+    EXPECT_THAT(target.at("event"), IsHidden());
+    target.at("mode").set("follow");
+    EXPECT_THAT(target.at("value"), IsHidden());
+    EXPECT_THAT(target.at("event"), IsVisible());
 }
 
 TEST_F(Setpoint, NeedsAnEventToFollow) {
-    EXPECT_EQ(set(kTarget, "mode", "follow"), "");
-    EXPECT_EQ(state(kTarget, "event"), "empty event key");
-    EXPECT_EQ(errorCount(), 1U);
-    EXPECT_EQ(refer(kTarget, "event", "PLC.disconnected"), "");
-    EXPECT_EQ(state(kTarget, "event"), "");
-    EXPECT_EQ(text(kTarget, "event"), "PLC.disconnected");
-    EXPECT_EQ(errorCount(), 0U);
+    target.at("mode").set("follow");
+    EXPECT_THAT(target.at("event"), HasError("empty event key"));
+    EXPECT_THAT(bench, HasErrors(1));
+    target.at("event").set("PLC.disconnected");
+    EXPECT_THAT(target.at("event"), IsOk());
+    EXPECT_THAT(target.at("event"), HasText("PLC.disconnected"));
+    EXPECT_THAT(bench, HasErrors(0));
 }
 
 TEST_F(Setpoint, FollowsChangesOfAnAttributeToo) {
-    add("PLC", "PumpStation.Measurement", "Level");
-    EXPECT_EQ(set(kTarget, "mode", "follow"), "");
-    EXPECT_EQ(refer(kTarget, "event", "PLC.Level.value"), "");
-    EXPECT_EQ(state(kTarget, "event"), "");
-    EXPECT_EQ(refer(kTarget, "event", "PLC.Level.level"), "");
-    EXPECT_EQ(state(kTarget, "event"),
-              "the element “PLC.Level” does not have an event or attribute named “level”");
+    plc.add("PumpStation.Measurement", "Level");
+    target.at("mode").set("follow");
+    target.at("event").set("PLC.Level.value");
+    EXPECT_THAT(target.at("event"), IsOk());
+    target.at("event").set("PLC.Level.level");
+    EXPECT_THAT(
+        target.at("event"),
+        HasError("the element “PLC.Level” does not have an event or attribute named “level”"));
 }
 
 TEST_F(Setpoint, FollowsTheEventThroughRenamesAndRemovals) {
-    add("PLC", "PumpStation.Measurement", "Level");
-    EXPECT_EQ(set(kTarget, "mode", "follow"), "");
-    EXPECT_EQ(refer(kTarget, "event", "PLC.Level.limitExceeded"), "");
-    record(kTarget, "event");
-    EXPECT_TRUE(workbench.rename("PLC.Level", "[Level 3.1]"));
-    EXPECT_EQ(text(kTarget, "event"), "PLC.[Level 3.1].limitExceeded");
-    EXPECT_TRUE(workbench.remove("PLC.[Level 3.1]"));
-    EXPECT_THAT(calls,
-                ElementsAre("event value Update 0", "event state the element “PLC” does not have a "
-                                                    "child named “[Level 3.1]”"));
-    EXPECT_THAT(saved(), HasSubstr("\"event\": \"PLC.[Level 3.1].limitExceeded\""));
+    const BenchElement level = plc.add("PumpStation.Measurement", "Level");
+    target.at("mode").set("follow");
+    target.at("event").set("PLC.Level.limitExceeded");
+    level.rename("[Level 3.1]");
+    EXPECT_THAT(target.at("event"), HasText("PLC.[Level 3.1].limitExceeded"));
+    EXPECT_THAT(bench, Announced(R"(
+        renamed     PLC.Level → PLC.[Level 3.1]
+        new key     PLC.Target.event: PLC.[Level 3.1].limitExceeded
+        value       PLC.Target.event: PLC.[Level 3.1].limitExceeded)"));
+    level.remove();
+    EXPECT_THAT(target.at("event"),
+                HasError("the element “PLC” does not have a child named “[Level 3.1]”"));
+    EXPECT_THAT(bench.saved(), HasSubstr("\"event\": \"PLC.[Level 3.1].limitExceeded\""));
 }
 
 TEST_F(Setpoint, SavesNoEventWhenThereIsNone) {
-    EXPECT_THAT(saved(), testing::Not(HasSubstr("\"event\"")));
+    EXPECT_THAT(bench.saved(), Not(HasSubstr("\"event\"")));
 }
 
 TEST_F(Setpoint, OffersItsMembers) {
-    EXPECT_THAT(attributes(kTarget), ElementsAre("value", "writeTime"));
-    EXPECT_THAT(events(kTarget), ElementsAre("changed"));
-    EXPECT_THAT(tasks(kTarget), testing::IsEmpty());
+    EXPECT_THAT(target.attributes(), ElementsAre("value", "writeTime"));
+    EXPECT_THAT(target.events(), ElementsAre("changed"));
+    EXPECT_THAT(target.tasks(), IsEmpty());
 }
 
 } // namespace

@@ -2,45 +2,43 @@
 
 namespace {
 
-using pump_station::tests::PumpStationTest;
-using testing::ElementsAre;
+using namespace pump_station::tests;
 
 class TriggeredTask : public PumpStationTest {
 protected:
-    TriggeredTask() {
-        add("", "PumpStation.Controller", "PLC");
-        add("", "PumpStation.SamplingTimer", "Timer");
-        EXPECT_EQ(insertRow("Timer", "tasks", 0), "");
-    }
+    TriggeredTask() { timer.at("tasks").insertRow(0); }
+
+    BenchElement plc = bench.add("PumpStation.Controller", "PLC");
+    BenchElement timer = bench.add("PumpStation.SamplingTimer", "Timer");
 };
 
 TEST_F(TriggeredTask, StartsEmpty) {
-    EXPECT_THAT(rows("Timer", "tasks"), ElementsAre("no task"));
-    EXPECT_EQ(state("Timer", "tasks.0.task"), "empty task key");
+    EXPECT_THAT(timer.at("tasks"), HasRows("no task"));
+    EXPECT_THAT(timer.at("tasks[0].task"), HasError("empty task key"));
 }
 
 TEST_F(TriggeredTask, IsNamedAfterItsTask) {
-    EXPECT_EQ(refer("Timer", "tasks.0.task", "PLC.reconnect"), "");
-    EXPECT_THAT(rows("Timer", "tasks"), ElementsAre("PLC.reconnect"));
-    EXPECT_EQ(state("Timer", "tasks.0.task"), "");
+    timer.at("tasks[0].task").set("PLC.reconnect");
+    EXPECT_THAT(timer.at("tasks"), HasRows("PLC.reconnect"));
+    EXPECT_THAT(timer.at("tasks[0].task"), IsOk());
 }
 
 TEST_F(TriggeredTask, SaysWhyItsTaskDoesNotResolve) {
-    EXPECT_EQ(refer("Timer", "tasks.0.task", "PLC.restart"), "");
-    EXPECT_EQ(state("Timer", "tasks.0.task"),
-              "the element “PLC” does not have a task named “restart”");
-    EXPECT_EQ(refer("Timer", "tasks.0.task", "PLC"), "");
-    EXPECT_EQ(state("Timer", "tasks.0.task"), "missing task name");
+    timer.at("tasks[0].task").set("PLC.restart");
+    EXPECT_THAT(timer.at("tasks[0].task"),
+                HasError("the element “PLC” does not have a task named “restart”"));
+    timer.at("tasks[0].task").set("PLC");
+    EXPECT_THAT(timer.at("tasks[0].task"), HasError("missing task name"));
 }
 
 TEST_F(TriggeredTask, FollowsItsTask) {
-    EXPECT_EQ(refer("Timer", "tasks.0.task", "PLC.reconnect"), "");
-    EXPECT_TRUE(workbench.rename("PLC", "[PLC 1.1]"));
-    EXPECT_THAT(rows("Timer", "tasks"), ElementsAre("[PLC 1.1].reconnect"));
+    timer.at("tasks[0].task").set("PLC.reconnect");
+    plc.rename("[PLC 1.1]");
+    EXPECT_THAT(timer.at("tasks"), HasRows("[PLC 1.1].reconnect"));
 }
 
 TEST_F(TriggeredTask, IsSetByTheWorkbenchAlone) {
-    EXPECT_FALSE(property("Timer", "tasks.0.task").setText);
+    EXPECT_FALSE(timer.at("tasks[0].task").property().setText);
 }
 
 } // namespace

@@ -10,11 +10,7 @@
 
 namespace {
 
-using pump_station::tests::checkLines;
-using pump_station::tests::configuration;
-using pump_station::tests::PumpStationTest;
-using pump_station::tests::readFile;
-using testing::ElementsAre;
+using namespace pump_station::tests;
 namespace host = corvane::workbench::host;
 
 /// The names of the faults, sorted.
@@ -71,24 +67,23 @@ protected:
 
 TEST_P(BrokenConfiguration, IsReportedAsExpectedAndChangesNothingUnlessItIsLoaded) {
     const std::string plant = readFile(configuration("plant.json"));
-    ASSERT_TRUE(load(configuration("plant.json")));
-    const host::ElementNode* station = workbench.findElement("Station");
-    recordErrorCount("");
+    bench.loadFile(configuration("plant.json"));
+    const host::ElementNode* station = bench.workbench().findElement("Station");
     const std::string text = readFile(file());
     const TemporaryFolder folder;
     const std::filesystem::path copy = folder.write(GetParam() + ".json", text);
 
-    const host::LoadResult result = load(copy);
+    const host::LoadResult result = bench.tryLoadFile(copy);
 
-    EXPECT_EQ(joined(checkLines(workbench, result, copy)),
+    EXPECT_EQ(joined(bench.problems()),
               readFile(configuration("broken") / (GetParam() + ".expected")));
     EXPECT_EQ(readFile(copy), text);
     if (result) {
-        EXPECT_EQ(workbench.findElement("Station"), nullptr);
+        EXPECT_FALSE(bench.has("Station"));
     } else {
-        EXPECT_EQ(workbench.findElement("Station"), station);
-        EXPECT_EQ(saved(), plant);
-        EXPECT_THAT(calls, testing::IsEmpty());
+        EXPECT_EQ(bench.workbench().findElement("Station"), station);
+        EXPECT_EQ(bench.saved(), plant);
+        EXPECT_THAT(bench, Announced(""));
     }
 }
 
@@ -117,27 +112,26 @@ TEST_F(BrokenConfigurations, AreEachExpectedToBeReported) {
 }
 
 TEST_F(BrokenConfigurations, MayBeNested512LevelsDeep) {
-    const host::LoadResult result = loadText(nested(512));
-    EXPECT_TRUE(result.loaded);
-    EXPECT_EQ(text("PLC", "settings"),
-              "{\"deep\":" + std::string(507, '[') + std::string(507, ']') + "}");
-    const std::string written = saved();
-    EXPECT_TRUE(loadText(written));
-    EXPECT_EQ(saved(), written);
+    bench.load(nested(512));
+    EXPECT_THAT(bench.at("PLC.settings"),
+                HasText("{\"deep\":" + std::string(507, '[') + std::string(507, ']') + "}"));
+    const std::string written = bench.saved();
+    bench.load(written);
+    EXPECT_EQ(bench.saved(), written);
 }
 
 TEST_F(BrokenConfigurations, AreRefusedAt513Levels) {
-    ASSERT_TRUE(load(configuration("plant.json")));
-    const host::LoadResult result = loadText(nested(513));
-    EXPECT_FALSE(result.loaded);
-    EXPECT_THAT(checkLines(workbench, result, "test.json"),
-                ElementsAre("test.json:2:508: error: JSON syntax error: objects and arrays are "
-                            "nested deeper than 512 levels"));
-    EXPECT_EQ(saved(), readFile(configuration("plant.json")));
+    bench.loadFile(configuration("plant.json"));
+    EXPECT_FALSE(bench.tryLoad(nested(513)));
+    EXPECT_THAT(
+        bench.problems(),
+        ElementsAre("configuration.json:2:508: error: JSON syntax error: objects and arrays are "
+                    "nested deeper than 512 levels"));
+    EXPECT_EQ(bench.saved(), readFile(configuration("plant.json")));
 }
 
 TEST_F(BrokenConfigurations, AreReportedAtTheEndOf100Megabytes) {
-    ASSERT_TRUE(load(configuration("plant.json")));
+    bench.loadFile(configuration("plant.json"));
     // Many lines, so that the place at the end has to be counted.
     std::string text = "{\"children\": [{\"PumpStation.Area\": {\"name\": \"Area\",\n";
     constexpr std::size_t kSize = 100'000'000;
@@ -149,40 +143,40 @@ TEST_F(BrokenConfigurations, AreReportedAtTheEndOf100Megabytes) {
     text += "  \"colour\": \"blue\"}}]}\n";
     const TemporaryFolder folder;
     const std::filesystem::path file = folder.write("large.json", text);
-    const host::LoadResult result = load(file);
+    const host::LoadResult result = bench.tryLoadFile(file);
     EXPECT_FALSE(result.loaded);
     ASSERT_EQ(result.problems.size(), 1U);
     EXPECT_EQ(result.problems[0].line, 102U);
     EXPECT_EQ(result.problems[0].column, 3U);
     EXPECT_EQ(result.problems[0].text, "unknown parameter \"colour\"");
-    EXPECT_EQ(saved(), readFile(configuration("plant.json")));
+    EXPECT_EQ(bench.saved(), readFile(configuration("plant.json")));
     EXPECT_EQ(std::filesystem::file_size(file), text.size());
 }
 
 TEST_F(BrokenConfigurations, LoseOnlyWhatIsBrokenOnRequest) {
-    const host::LoadResult result =
-        load(configuration("broken") / "duplicate-sibling-names.json", {.keepGoing = true});
+    const host::LoadResult result = bench.tryLoadFile(
+        configuration("broken") / "duplicate-sibling-names.json", {.keepGoing = true});
     EXPECT_TRUE(result.loaded);
     EXPECT_EQ(result.problems.size(), 1U);
-    EXPECT_NE(workbench.findElement("PLC.Pump"), nullptr);
-    EXPECT_EQ(workbench.findElement("PLC")->childCount(), 1U);
+    EXPECT_TRUE(bench.has("PLC.Pump"));
+    EXPECT_EQ(bench.element("PLC").node().childCount(), 1U);
 }
 
 TEST_F(BrokenConfigurations, WithBrokenRowsLoseTheElementOnRequest) {
-    const host::LoadResult result =
-        load(configuration("broken") / "unknown-input-parameter.json", {.keepGoing = true});
+    const host::LoadResult result = bench.tryLoadFile(
+        configuration("broken") / "unknown-input-parameter.json", {.keepGoing = true});
     EXPECT_TRUE(result.loaded);
     EXPECT_EQ(result.problems.size(), 1U);
-    EXPECT_NE(workbench.findElement("PLC.Pump"), nullptr);
-    EXPECT_EQ(workbench.findElement("Balancer"), nullptr);
-    EXPECT_TRUE(workbench.referencesTo(*workbench.findElement("PLC.Pump")).empty());
+    EXPECT_TRUE(bench.has("PLC.Pump"));
+    EXPECT_FALSE(bench.has("Balancer"));
+    EXPECT_THAT(bench.element("PLC.Pump").referrers(), IsEmpty());
 }
 
 TEST_F(BrokenConfigurations, CanBeMissing) {
-    const host::LoadResult result = load(configuration("no-such-file.json"));
+    const host::LoadResult result = bench.tryLoadFile(configuration("no-such-file.json"));
     EXPECT_FALSE(result.loaded);
     ASSERT_EQ(result.problems.size(), 1U);
-    EXPECT_THAT(result.problems[0].text, testing::HasSubstr("no-such-file.json"));
+    EXPECT_THAT(result.problems[0].text, HasSubstr("no-such-file.json"));
 }
 
 } // namespace

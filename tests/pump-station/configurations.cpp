@@ -1,17 +1,11 @@
 #include "PumpStationTest.hpp"
 #include <corvane/workbench/host/ElementNode.hpp>
-#include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <map>
 
 namespace {
 
-using pump_station::tests::checkLines;
-using pump_station::tests::configuration;
-using pump_station::tests::PumpStationTest;
-using pump_station::tests::readFile;
-using testing::ElementsAre;
-using testing::IsEmpty;
+using namespace pump_station::tests;
 namespace host = corvane::workbench::host;
 
 class Configurations : public PumpStationTest {
@@ -37,17 +31,16 @@ protected:
 };
 
 TEST_F(Configurations, ThePlantIsFreeOfProblems) {
-    const host::LoadResult result = load(configuration("plant.json"));
-    EXPECT_THAT(checkLines(workbench, result, "plant.json"), IsEmpty());
-    EXPECT_TRUE(result.loaded);
-    EXPECT_EQ(errorCount(), 0U);
-    EXPECT_EQ(workbench.elementCount(), 78U);
+    bench.loadFile(configuration("plant.json"));
+    EXPECT_THAT(bench.problems(), IsEmpty());
+    EXPECT_THAT(bench, HasErrors(0));
+    EXPECT_EQ(bench.workbench().elementCount(), 78U);
 }
 
 TEST_F(Configurations, ThePlantUsesEveryElementClass) {
-    load(configuration("plant.json"));
+    bench.loadFile(configuration("plant.json"));
     std::map<std::string, int> counts;
-    countClasses(workbench.root(), counts);
+    countClasses(bench.workbench().root(), counts);
     EXPECT_THAT(
         counts,
         ElementsAre(std::pair("PumpStation.Area", 5), std::pair("PumpStation.Controller", 5),
@@ -59,83 +52,86 @@ TEST_F(Configurations, ThePlantUsesEveryElementClass) {
 }
 
 TEST_F(Configurations, ThePlantIsSavedAsItWas) {
-    load(configuration("plant.json"));
-    EXPECT_EQ(saved(), readFile(configuration("plant.json")));
+    bench.loadFile(configuration("plant.json"));
+    EXPECT_EQ(bench.saved(), readFile(configuration("plant.json")));
 }
 
 TEST_F(Configurations, TheReferencesOfThePlantResolve) {
-    load(configuration("plant.json"));
-    const auto usesOf = [this](std::string_view key) {
-        return workbench.referencesTo(*workbench.findElement(key)).size();
-    };
-    EXPECT_EQ(usesOf("Station.Pump hall.PLC 1.[Pump 1.2]"), 2U); // two attributes
-    EXPECT_EQ(usesOf("Station.Pump hall.PLC 1.[Pump 1.1]"), 1U); // the element itself
-    EXPECT_EQ(usesOf("Station.Schedule.Night"), 1U);             // an event
-    EXPECT_EQ(usesOf("Weather mast"), 1U);                       // a task
+    bench.loadFile(configuration("plant.json"));
+    // Two attributes, the element itself, an event, a task.
+    EXPECT_THAT(bench.element("Station.Pump hall.PLC 1.[Pump 1.2]").referrers(),
+                ElementsAre("Station.Pump hall.Balancer 1.inputs.2.attribute",
+                            "Station.Pump hall.Balancer 1.inputs.3.attribute"));
+    EXPECT_THAT(bench.element("Station.Pump hall.PLC 1.[Pump 1.1]").referrers(),
+                ElementsAre("Station.Pump hall.Balancer 1.pump"));
+    EXPECT_THAT(bench.element("Station.Schedule.Night").referrers(),
+                ElementsAre("Station.Reservoir.Reservoir PLC.Refill level.event"));
+    EXPECT_THAT(bench.element("Weather mast").referrers(),
+                ElementsAre("Station.Schedule.Link check.tasks.2.task"));
 }
 
 TEST_F(Configurations, ThePlantKeepsAReferenceIntoAnImport) {
-    load(configuration("plant.json"));
-    constexpr std::string_view kOpening = "Station.Reservoir.Reservoir PLC.[Valve 3.2].Opening";
-    EXPECT_EQ(text(kOpening, "event"), ".import:Village.[Main 7.2].demand.changed");
-    EXPECT_FALSE(visible(kOpening, "event"));
-    EXPECT_EQ(state(kOpening, "event"), "");
+    bench.loadFile(configuration("plant.json"));
+    const auto event = bench.at("Station.Reservoir.Reservoir PLC.[Valve 3.2].Opening.event");
+    EXPECT_THAT(event, HasText(".import:Village.[Main 7.2].demand.changed"));
+    EXPECT_THAT(event, IsHidden());
+    EXPECT_THAT(event, IsOk());
 }
 
 TEST_F(Configurations, TheLegacyOneLoadsCountsOfMicroseconds) {
-    const host::LoadResult result = load(configuration("legacy.json"));
-    EXPECT_THAT(checkLines(workbench, result, "legacy.json"), IsEmpty());
-    EXPECT_EQ(text("PLC", "pollInterval"), "250ms");
-    EXPECT_EQ(text("PLC", "reconnectDelay"), "90s");
-    EXPECT_EQ(text("Night", "interval"), "24h");
-    EXPECT_EQ(text("Fast", "interval"), "1500µs");
+    bench.loadFile(configuration("legacy.json"));
+    EXPECT_THAT(bench.problems(), IsEmpty());
+    EXPECT_THAT(bench.at("PLC.pollInterval"), HasText("250ms"));
+    EXPECT_THAT(bench.at("PLC.reconnectDelay"), HasText("90s"));
+    EXPECT_THAT(bench.at("Night.interval"), HasText("24h"));
+    EXPECT_THAT(bench.at("Fast.interval"), HasText("1500µs"));
 }
 
 TEST_F(Configurations, TheLegacyOneIsSavedWithUnits) {
-    load(configuration("legacy.json"));
-    const std::string text = saved();
-    EXPECT_THAT(text, testing::HasSubstr("\"pollInterval\": \"250ms\",\n"));
-    EXPECT_THAT(text, testing::HasSubstr("\"reconnectDelay\": \"90s\",\n"));
-    EXPECT_THAT(text, testing::HasSubstr("\"interval\": \"24h\",\n"));
-    EXPECT_THAT(text, testing::HasSubstr("\"interval\": \"1500µs\",\n"));
-    EXPECT_TRUE(loadText(text));
-    EXPECT_EQ(saved(), text);
+    bench.loadFile(configuration("legacy.json"));
+    const std::string text = bench.saved();
+    EXPECT_THAT(text, HasSubstr("\"pollInterval\": \"250ms\",\n"));
+    EXPECT_THAT(text, HasSubstr("\"reconnectDelay\": \"90s\",\n"));
+    EXPECT_THAT(text, HasSubstr("\"interval\": \"24h\",\n"));
+    EXPECT_THAT(text, HasSubstr("\"interval\": \"1500µs\",\n"));
+    bench.load(text);
+    EXPECT_EQ(bench.saved(), text);
 }
 
 TEST_F(Configurations, TheDanglingOneLoadsWithAProblemForEachKey) {
-    const host::LoadResult result = load(configuration("dangling.json"));
+    const host::LoadResult result = bench.tryLoadFile(configuration("dangling.json"));
     EXPECT_TRUE(result.loaded);
-    EXPECT_EQ(checkLines(workbench, result, configuration("dangling.json")),
-              expectedLines("dangling.expected"));
+    EXPECT_EQ(bench.problems(), expectedLines("dangling.expected"));
     // The ninth key belongs to a property that is hidden.
     EXPECT_EQ(result.problems.size(), 9U);
-    EXPECT_EQ(errorCount(), 8U);
+    EXPECT_THAT(bench, HasErrors(8));
 }
 
 TEST_F(Configurations, TheDanglingOneKeepsItsKeysWhenSaved) {
-    load(configuration("dangling.json"));
-    EXPECT_EQ(saved(), readFile(configuration("dangling.json")));
+    bench.loadFile(configuration("dangling.json"));
+    EXPECT_EQ(bench.saved(), readFile(configuration("dangling.json")));
 }
 
 TEST_F(Configurations, TheImportOneKeepsItsReferencesUnresolved) {
-    const host::LoadResult result = load(configuration("import.json"));
+    const host::LoadResult result = bench.tryLoadFile(configuration("import.json"));
     EXPECT_TRUE(result.loaded);
     EXPECT_THAT(result.problems, IsEmpty());
-    EXPECT_EQ(errorCount(), 5U);
-    EXPECT_EQ(state("Balancer", "pump"), "internal error: unresolved cross reference from import");
-    EXPECT_EQ(text("Balancer", "inputs.0.attribute"), ".import:PLC.[Pump 1.1].[vibration.x]");
-    EXPECT_EQ(saved(), readFile(configuration("import.json")));
+    EXPECT_THAT(bench, HasErrors(5));
+    EXPECT_THAT(bench.at("Balancer.pump"),
+                HasError("internal error: unresolved cross reference from import"));
+    EXPECT_THAT(bench.at("Balancer.inputs[0].attribute"),
+                HasText(".import:PLC.[Pump 1.1].[vibration.x]"));
+    EXPECT_EQ(bench.saved(), readFile(configuration("import.json")));
 }
 
 TEST_F(Configurations, TheImportOneResolvesItsReferencesOnRequest) {
     const host::LoadResult result =
-        load(configuration("import.json"), {.resolveImportReferences = true});
-    EXPECT_THAT(checkLines(workbench, result, "import.json"), IsEmpty());
-    EXPECT_EQ(text("Balancer", "pump"), "PLC.[Pump 1.1]");
-    EXPECT_EQ(text("PLC.Level", "event"), "PLC.[Pump 1.1].tripped");
-    EXPECT_EQ(rows("Timer", "tasks"),
-              (std::vector<std::string>{"PLC.[Pump 1.1].start", "Balancer.rebalance"}));
-    EXPECT_THAT(saved(), testing::Not(testing::HasSubstr(".import:")));
+        bench.tryLoadFile(configuration("import.json"), {.resolveImportReferences = true});
+    EXPECT_THAT(bench.problems(), IsEmpty());
+    EXPECT_THAT(bench.at("Balancer.pump"), HasText("PLC.[Pump 1.1]"));
+    EXPECT_THAT(bench.at("PLC.Level.event"), HasText("PLC.[Pump 1.1].tripped"));
+    EXPECT_THAT(bench.at("Timer.tasks"), HasRows("PLC.[Pump 1.1].start", "Balancer.rebalance"));
+    EXPECT_THAT(bench.saved(), Not(HasSubstr(".import:")));
 }
 
 } // namespace

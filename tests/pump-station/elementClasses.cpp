@@ -9,9 +9,7 @@
 
 namespace {
 
-using pump_station::tests::PumpStationTest;
-using pump_station::tests::savedSettings;
-using testing::ElementsAre;
+using namespace pump_station::tests;
 namespace skill = corvane::workbench::skill;
 
 class ElementClasses : public PumpStationTest {
@@ -19,8 +17,8 @@ protected:
     /// The ids of the classes that an element of that class accepts as children.
     [[nodiscard]] std::vector<std::string> children(std::string_view id) const {
         std::vector<std::string> accepted;
-        for (const skill::Element::Class& candidate : workbench.elementClasses().all()) {
-            if (workbench.elementClasses().find(id)->allowChildElement(candidate)) {
+        for (const skill::Element::Class& candidate : bench.workbench().elementClasses().all()) {
+            if (bench.workbench().elementClasses().find(id)->allowChildElement(candidate)) {
                 accepted.emplace_back(candidate.id());
             }
         }
@@ -29,8 +27,8 @@ protected:
 };
 
 TEST_F(ElementClasses, BelongToOneSkill) {
-    ASSERT_EQ(workbench.skills().size(), 1U);
-    const auto& skillClass = workbench.skills()[0]->skillClass();
+    ASSERT_EQ(bench.workbench().skills().size(), 1U);
+    const auto& skillClass = bench.workbench().skills()[0]->skillClass();
     EXPECT_EQ(skillClass.id(), "PumpStation");
     EXPECT_EQ(skillClass.displayName(), L"Pump station");
     EXPECT_EQ(skillClass.version(), "1.0.0");
@@ -38,7 +36,7 @@ TEST_F(ElementClasses, BelongToOneSkill) {
 
 TEST_F(ElementClasses, AreRegisteredInTheOrderOfTheCatalogue) {
     std::vector<std::string> texts;
-    for (const skill::Element::Class& elementClass : workbench.elementClasses().all()) {
+    for (const skill::Element::Class& elementClass : bench.workbench().elementClasses().all()) {
         texts.push_back(std::string(elementClass.id()) + ": " +
                         corvane::utils::string::toUtf8(elementClass.displayName()) + ", " +
                         elementClass.defaultName());
@@ -57,7 +55,7 @@ TEST_F(ElementClasses, AreRegisteredInTheOrderOfTheCatalogue) {
 TEST_F(ElementClasses, HaveUuidsAndDescriptionsOfTheirOwn) {
     std::set<std::string> uuids;
     std::set<std::wstring> descriptions;
-    for (const skill::Element::Class& elementClass : workbench.elementClasses().all()) {
+    for (const skill::Element::Class& elementClass : bench.workbench().elementClasses().all()) {
         uuids.insert(elementClass.uuid().toString());
         descriptions.insert(elementClass.description());
     }
@@ -79,29 +77,29 @@ TEST_F(ElementClasses, AcceptChildrenByCategory) {
     EXPECT_THAT(children("PumpStation.MeasurementGroup"),
                 ElementsAre("PumpStation.MeasurementGroup", "PumpStation.Measurement",
                             "PumpStation.Setpoint"));
-    EXPECT_THAT(children("PumpStation.Measurement"), testing::IsEmpty());
-    EXPECT_THAT(children("PumpStation.Setpoint"), testing::IsEmpty());
-    EXPECT_THAT(children("PumpStation.SamplingTimer"), testing::IsEmpty());
-    EXPECT_THAT(children("PumpStation.PumpBalancer"), testing::IsEmpty());
+    EXPECT_THAT(children("PumpStation.Measurement"), IsEmpty());
+    EXPECT_THAT(children("PumpStation.Setpoint"), IsEmpty());
+    EXPECT_THAT(children("PumpStation.SamplingTimer"), IsEmpty());
+    EXPECT_THAT(children("PumpStation.PumpBalancer"), IsEmpty());
 }
 
 TEST_F(ElementClasses, MakeElementsThatAreSavedAndLoadedAlike) {
-    add("", "PumpStation.Area", {});
-    add("", "PumpStation.Controller", {});
-    add("", "PumpStation.SamplingTimer", {});
-    add("", "PumpStation.PumpBalancer", {});
+    bench.add("PumpStation.Area");
+    bench.add("PumpStation.SamplingTimer");
+    bench.add("PumpStation.PumpBalancer");
+    const BenchElement controller = bench.add("PumpStation.Controller");
     for (const char* id : {"PumpStation.Pump", "PumpStation.Valve", "PumpStation.MeasurementGroup",
                            "PumpStation.Measurement", "PumpStation.Setpoint"}) {
-        add("Controller", id, {});
+        controller.add(id);
     }
-    const std::string written = saved();
-    EXPECT_TRUE(loadText(written));
-    EXPECT_EQ(saved(), written);
-    EXPECT_EQ(workbench.elementCount(), 9U);
+    const std::string written = bench.saved();
+    bench.load(written);
+    EXPECT_EQ(bench.saved(), written);
+    EXPECT_EQ(bench.workbench().elementCount(), 9U);
 }
 
 TEST_F(ElementClasses, CopyTheSettingsOfEveryElementOfThePlant) {
-    ASSERT_TRUE(load(pump_station::tests::configuration("plant.json")));
+    bench.loadFile(configuration("plant.json"));
     std::size_t count = 0;
     const auto copyBelow = [&](const auto& self,
                                const corvane::workbench::host::ElementNode& top) -> void {
@@ -113,18 +111,18 @@ TEST_F(ElementClasses, CopyTheSettingsOfEveryElementOfThePlant) {
             self(self, node);
         }
     };
-    copyBelow(copyBelow, workbench.root());
+    copyBelow(copyBelow, bench.workbench().root());
     EXPECT_EQ(count, 78U);
 }
 
 TEST_F(ElementClasses, DoNotCopyElementsOfOthers) {
-    add("", "PumpStation.Area", "Area");
-    EXPECT_THROW(
-        static_cast<void>(workbench.elementClasses()
-                              .find("PumpStation.Pump")
-                              ->factory()
-                              .copyElement(*workbench.findElement("Area")->skillElement())),
-        std::bad_cast);
+    const BenchElement area = bench.add("PumpStation.Area");
+    EXPECT_THROW(static_cast<void>(bench.workbench()
+                                       .elementClasses()
+                                       .find("PumpStation.Pump")
+                                       ->factory()
+                                       .copyElement(*area.node().skillElement())),
+                 std::bad_cast);
 }
 
 } // namespace

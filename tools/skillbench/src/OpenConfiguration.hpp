@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Streams.hpp"
-#include <corvane/workbench/host/Problem.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 
 #include <filesystem>
@@ -43,10 +42,8 @@ public:
     [[nodiscard]] bool loaded() const noexcept { return result_.loaded; }
     /// Whether it has all of it; otherwise --keep-going left parts out.
     [[nodiscard]] bool complete() const noexcept { return complete_; }
-    /// What the load had to say, in the order of the file.
-    [[nodiscard]] const std::vector<workbench::host::Problem>& loadProblems() const noexcept {
-        return result_.problems;
-    }
+    /// What came of the load.
+    [[nodiscard]] const workbench::host::LoadResult& result() const noexcept { return result_; }
     /// Prints the problems of the load, each on a line of its own.
     void printLoadProblems(std::ostream& to) const;
     /// Throws a Failure when the configuration is not loaded, or when writing it to the target

@@ -1,30 +1,19 @@
 #pragma once
 
-// Everything that is wrong with a configuration: what its load had to say and the properties whose
-// values are not valid.
+// What is wrong with the configuration of a command line.
 
 #include <corvane/utils/json/encoder/Array.hpp>
-#include <corvane/workbench/host/Problem.hpp>
+#include <corvane/workbench/host/configurationProblems.hpp>
 
 #include <cstddef>
-#include <string>
 #include <vector>
 
 namespace corvane::skillbench {
 
 class OpenConfiguration;
 
-struct ConfigurationProblem {
-    /// Said as it is printed; a property's problem stands at its element.
-    workbench::host::Problem problem;
-    /// The key of the element and the path of the property that is not valid; empty for a problem
-    /// of the load.
-    std::string element{};
-    std::string property{};
-};
+using workbench::host::ConfigurationProblem;
 
-/// In the order of the file. A reference that does not resolve makes its property invalid as well;
-/// it is said once, where the key stands.
 [[nodiscard]] std::vector<ConfigurationProblem>
 configurationProblems(const OpenConfiguration& configuration);
 

@@ -1,13 +1,13 @@
 #include "CommandLine.hpp"
 #include "Failure.hpp"
-#include "Notifications.hpp"
 #include "OpenConfiguration.hpp"
 #include "assignment.hpp"
 #include "commands.hpp"
-#include "editableProperties.hpp"
 #include "text.hpp"
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/host/Notifications.hpp>
+#include <corvane/workbench/host/editableProperties.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 
 #include <cstddef>
@@ -100,7 +100,7 @@ private:
         }
         // Setting happens outside the walk: it may change what is walked through.
         std::optional<skill::EditableProperty> found;
-        const auto take = [&](const PropertyPlace& place) { found = place.property; };
+        const auto take = [&](const host::PropertyPlace& place) { found = place.property; };
         withProperty(*property, take);
         setValue(edit, *found, value);
     }
@@ -185,7 +185,7 @@ int edit(Arguments arguments, const Streams& streams) {
     Keys keys;
     collectKeys(workbench.root(), keys);
     {
-        Notifications notifications(workbench, streams.out);
+        host::Notifications notifications(workbench, streams.out);
         const Editor editor(workbench);
         for (const Edit& edit : edits) {
             streams.out << edit.option << ' ' << onOneLine(edit.argument) << '\n';

@@ -2,9 +2,9 @@
 #include "Failure.hpp"
 #include "OpenConfiguration.hpp"
 #include "commands.hpp"
-#include "editableProperties.hpp"
-#include "referenceProperty.hpp"
 #include "text.hpp"
+#include <corvane/workbench/host/editableProperties.hpp>
+#include <corvane/workbench/host/referenceProperty.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <algorithm>
@@ -26,9 +26,9 @@ public:
 
     /// Prints what an element and those below it hold.
     void printBelow(const host::ElementNode& element) {
-        const auto print = [&](const PropertyPlace& place) {
+        const auto print = [&](const host::PropertyPlace& place) {
             const auto isPlace = [&](const host::ReferenceUse& use) {
-                return isProperty(*use.reference, place.property);
+                return host::isProperty(*use.reference, place.property);
             };
             const auto use = std::find_if(uses_.begin(), uses_.end(), isPlace);
             if (use != uses_.end()) {

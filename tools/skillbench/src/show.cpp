@@ -2,13 +2,10 @@
 #include "ExitCode.hpp"
 #include "OpenConfiguration.hpp"
 #include "commands.hpp"
-#include "editableProperties.hpp"
 #include "showJson.hpp"
 #include "text.hpp"
-#include <corvane/workbench/skill/EditableProperty.hpp>
-#include <corvane/workbench/skill/SubElement.hpp>
+#include <corvane/workbench/host/TreePrinter.hpp>
 
-#include <cstddef>
 #include <ostream>
 
 namespace corvane::skillbench {
@@ -16,70 +13,6 @@ namespace corvane::skillbench {
 namespace {
 
 namespace host = workbench::host;
-namespace skill = workbench::skill;
-
-class TreePrinter {
-public:
-    explicit TreePrinter(std::ostream& out) : out_(out) {}
-
-    void printElement(const host::ElementNode& element) {
-        indent() << onOneLine(element.name()) << "  (" << onOneLine(element.type()) << ", "
-                 << countText(element.properties().propertyErrorCount(), "error") << ")\n";
-        ++level_;
-        const auto print = [&](const skill::EditableProperty& property) {
-            printProperty(property);
-        };
-        element.skillElement()->forEachEditableProperty(print);
-        printChildren(element);
-        --level_;
-    }
-
-    void printChildren(const host::ElementNode& element) {
-        for (std::size_t index = 0; index < element.childCount(); ++index) {
-            printElement(element.child(index));
-        }
-    }
-
-private:
-    std::ostream& indent() { return out_ << std::string(2 * level_, ' '); }
-
-    void printProperty(const skill::EditableProperty& property) {
-        const auto& state = property.property.state();
-        const bool visible = property.property.visible();
-        indent() << (!visible ? "hidden "
-                     : state  ? "ok     "
-                              : "error  ")
-                 << onOneLine(property.displayName) << ':';
-        if (const std::string value = valueText(property); !value.empty()) {
-            out_ << ' ' << value;
-        }
-        if (!state) {
-            out_ << "  <- " << onOneLine(state.error());
-        }
-        out_ << '\n';
-        if (property.forEachSubElement) {
-            std::size_t index = 0;
-            const auto print = [&](skill::SubElement& row) { printRow(row, index++); };
-            level_ += 4;
-            property.forEachSubElement(print);
-            level_ -= 4;
-        }
-    }
-
-    void printRow(skill::SubElement& row, std::size_t index) {
-        indent() << index << ": " << onOneLine(row.displayName()) << "  ("
-                 << countText(row.propertyErrorCount(), "error") << ")\n";
-        ++level_;
-        const auto print = [&](const skill::EditableProperty& property) {
-            printProperty(property);
-        };
-        row.forEachEditableProperty(print);
-        --level_;
-    }
-
-    std::ostream& out_;
-    std::size_t level_ = 0;
-};
 
 void printText(const OpenConfiguration& configuration, const Streams& streams) {
     configuration.printLoadProblems(streams.err);
@@ -89,7 +22,7 @@ void printText(const OpenConfiguration& configuration, const Streams& streams) {
                     << countText(workbench.elementCount(), "element") << ", "
                     << countText(workbench.root().properties().propertyErrorCount(), "error")
                     << ")\n";
-        TreePrinter(streams.out).printChildren(workbench.root());
+        host::TreePrinter(streams.out).printChildren(workbench.root());
     }
 }
 

@@ -1,11 +1,11 @@
-#include "Notifications.hpp"
+#include <corvane/workbench/host/Notifications.hpp>
 
-#include "editableProperties.hpp"
-#include "referenceProperty.hpp"
-#include "text.hpp"
 #include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/host/displayText.hpp>
+#include <corvane/workbench/host/editableProperties.hpp>
+#include <corvane/workbench/host/referenceProperty.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
@@ -17,15 +17,12 @@
 #include <utility>
 #include <vector>
 
-namespace corvane::skillbench {
+namespace corvane::workbench::host {
 
 namespace {
 
-namespace bindings = workbench::bindings;
-namespace host = workbench::host;
-namespace skill = workbench::skill;
 using bindings::PropertyController;
-using workbench::model::internal::BasicElementReference;
+using model::internal::BasicElementReference;
 
 constexpr std::string_view kArrow = " → ";
 
@@ -49,7 +46,7 @@ std::string actionText(bindings::Action action, std::size_t index) {
 /// without notice: a subscription must not be ended then, it ended with its row.
 class Notifications::Watch {
 public:
-    Watch(Notifications& notifications, host::ElementNode& element) : element_(element) {
+    Watch(Notifications& notifications, ElementNode& element) : element_(element) {
         const auto add = [&](const PropertyPlace& place) {
             if (!place.property.property) {
                 return;
@@ -84,7 +81,7 @@ public:
     }
 
 private:
-    const host::ElementNode& element_;
+    const ElementNode& element_;
     std::vector<PropertyController::Subscription> own_;
     std::vector<
         std::pair<const skill::SubElement*, std::unique_ptr<PropertyController::Subscription>>>
@@ -92,7 +89,7 @@ private:
     bindings::PropertyContainer::ErrorCountSubscription errorCount_;
 };
 
-Notifications::Notifications(host::Workbench& workbench, std::ostream& out)
+Notifications::Notifications(Workbench& workbench, std::ostream& out)
     : workbench_(workbench), out_(out) {
     refresh();
     workbench_.addObserver(*this);
@@ -107,21 +104,21 @@ void Notifications::refresh() {
     watchBelow(workbench_.root());
 }
 
-void Notifications::watchBelow(host::ElementNode& element) {
+void Notifications::watchBelow(ElementNode& element) {
     watches_.emplace(&element, std::make_unique<Watch>(*this, element));
     for (std::size_t index = 0; index < element.childCount(); ++index) {
         watchBelow(element.child(index));
     }
 }
 
-void Notifications::forgetBelow(const host::ElementNode& element) {
+void Notifications::forgetBelow(const ElementNode& element) {
     watches_.erase(&element);
     for (std::size_t index = 0; index < element.childCount(); ++index) {
         forgetBelow(element.child(index));
     }
 }
 
-PropertyController::Subscription Notifications::subscribe(const host::ElementNode& element,
+PropertyController::Subscription Notifications::subscribe(const ElementNode& element,
                                                           const PropertyPlace& place) const {
     // The description is copied: it is as good as the element or the row, which outlives the call.
     const auto where = [&element, path = place.path] { return element.primaryKey() + "." + path; };
@@ -141,24 +138,32 @@ PropertyController::Subscription Notifications::subscribe(const host::ElementNod
     return place.property.property.subscribe(std::move(callbacks));
 }
 
-void Notifications::errorCountChanged(const host::ElementNode& element) const {
+void Notifications::errorCountChanged(const ElementNode& element) const {
     line("errors", keyText(element.primaryKey()))
         << ": " << element.properties().propertyErrorCount() << '\n';
 }
 
-void Notifications::elementAdded(const host::ElementNode& element) {
+void Notifications::configurationUnloading() {
+    watches_.clear();
+}
+
+void Notifications::configurationLoaded() {
+    refresh();
+}
+
+void Notifications::elementAdded(const ElementNode& element) {
     line("added", element.primaryKey()) << '\n';
 }
 
-void Notifications::elementRenamed(const host::ElementNode& element, std::string_view oldKey) {
+void Notifications::elementRenamed(const ElementNode& element, std::string_view oldKey) {
     line("renamed", oldKey) << kArrow << onOneLine(element.primaryKey()) << '\n';
 }
 
-void Notifications::elementMoved(const host::ElementNode& element, std::string_view oldKey) {
+void Notifications::elementMoved(const ElementNode& element, std::string_view oldKey) {
     line("moved", oldKey) << kArrow << onOneLine(element.primaryKey()) << '\n';
 }
 
-void Notifications::elementRemoving(const host::ElementNode& element) {
+void Notifications::elementRemoving(const ElementNode& element) {
     line("removing", element.primaryKey()) << '\n';
     forgetBelow(element);
 }
@@ -167,31 +172,22 @@ void Notifications::elementRemoved(std::string_view key) {
     line("removed", key) << '\n';
 }
 
-void Notifications::elementMembersChanged(const host::ElementNode& element) {
+void Notifications::elementMembersChanged(const ElementNode& element) {
     line("members", element.primaryKey()) << '\n';
 }
 
 void Notifications::referenceKeyChanged(const BasicElementReference& reference) {
-    line("new key", placeOf(reference)) << ": " << onOneLine(reference.data().primaryKey()) << '\n';
+    line("new key", placeOf(reference, workbench_))
+        << ": " << onOneLine(reference.data().primaryKey()) << '\n';
 }
 
 void Notifications::referenceStateChanged(const BasicElementReference& reference) {
-    line("resolution", placeOf(reference))
+    line("resolution", placeOf(reference, workbench_))
         << ": " << onOneLine(reference.data().primaryKey()) << '\n';
 }
 
 std::ostream& Notifications::line(std::string_view what, std::string_view where) const {
-    constexpr std::size_t kColumn = 12;
-    return out_ << "  " << what << std::string(kColumn - what.size(), ' ') << onOneLine(where);
+    return out_ << "  " << what << std::string(kPlaceColumn - what.size(), ' ') << onOneLine(where);
 }
 
-std::string Notifications::placeOf(const BasicElementReference& reference) const {
-    const host::ElementNode* owner = workbench_.ownerOf(reference);
-    if (owner == nullptr) {
-        return "(no element)";
-    }
-    const std::string path = propertyPath(reference, *owner);
-    return path.empty() ? owner->primaryKey() : owner->primaryKey() + "." + path;
-}
-
-} // namespace corvane::skillbench
+} // namespace corvane::workbench::host
