@@ -13,7 +13,7 @@
 #include <corvane/workbench/model/Attribute.hpp>
 #include <corvane/workbench/model/Element.hpp>
 
-namespace first_skill {
+namespace by_hand {
 
 namespace {
 
@@ -140,4 +140,4 @@ void Mixer::forEachEditableProperty(
     callback(steps);
 }
 
-} // namespace first_skill
+} // namespace by_hand

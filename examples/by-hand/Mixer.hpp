@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace first_skill {
+namespace by_hand {
 
 /// A mixer: its top speed, another mixer whose speed it follows, and the steps of its recipe.
 class Mixer final : public workbench::skill::Element {
@@ -33,4 +33,4 @@ private:
     Steps steps_;
 };
 
-} // namespace first_skill
+} // namespace by_hand

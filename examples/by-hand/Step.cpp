@@ -11,7 +11,7 @@
 #include <corvane/workbench/config/Context.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>
 
-namespace first_skill {
+namespace by_hand {
 
 namespace {
 
@@ -78,4 +78,4 @@ void Step::forEachEditableProperty(
                              [this] { return waitsFor.primaryKey(); }));
 }
 
-} // namespace first_skill
+} // namespace by_hand

@@ -18,7 +18,7 @@ namespace corvane::workbench::config {
 class Context;
 }
 
-namespace first_skill {
+namespace by_hand {
 
 /// A step of a mixer's recipe: a row of its list.
 class Step final : public workbench::skill::SubElement {
@@ -45,4 +45,4 @@ private:
     PropertyState waitsForState() const;
 };
 
-} // namespace first_skill
+} // namespace by_hand

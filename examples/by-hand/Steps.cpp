@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-namespace first_skill {
+namespace by_hand {
 
 Steps::Steps(const Steps& other) : PropertyContainer(other) {
     for (const auto& row : other.rows_) {
@@ -52,4 +52,4 @@ void Steps::propertyNotificationRaised(const workbench::bindings::PropertyId& pr
     raisePropertyNotification(property);
 }
 
-} // namespace first_skill
+} // namespace by_hand

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-namespace first_skill {
+namespace by_hand {
 
 /// The steps of a mixer. Stands between the mixer, whose property holds it, and the rows: it adds
 /// up their errors and passes on what they raise. A step keeps its address while it is in the list,
@@ -47,4 +47,4 @@ private:
     std::vector<std::unique_ptr<Step>> rows_;
 };
 
-} // namespace first_skill
+} // namespace by_hand

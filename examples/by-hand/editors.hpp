@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-namespace first_skill {
+namespace by_hand {
 
 using State = workbench::bindings::PropertyController::PropertyState;
 
@@ -32,4 +32,4 @@ referenceEditor(std::string_view name, std::string_view displayName,
                 const workbench::bindings::PropertyHandle& property,
                 const std::function<std::string()>& key);
 
-} // namespace first_skill
+} // namespace by_hand

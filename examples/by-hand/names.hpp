@@ -5,9 +5,9 @@
 namespace corvane::workbench {}
 namespace corvane::utils {}
 
-namespace first_skill {
+namespace by_hand {
 
 namespace workbench = corvane::workbench;
 namespace utils = corvane::utils;
 
-} // namespace first_skill
+} // namespace by_hand

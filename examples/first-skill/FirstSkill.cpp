@@ -11,7 +11,7 @@ namespace {
 
 const kit::ElementClass<Mixer> kMixer({
     .id = "FirstSkill.Mixer",
-    .uuid = "6f0d6f0e-6f5a-4c2b-9d43-6b1f3f1f7a01"_uuid,
+    .uuid = "5f0c2a8e-93b7-4d8e-a1c4-2f6d0b9e7713"_uuid,
     .displayName = "Mixer",
     .description = "Works through the steps of a recipe.",
     .category = model::ElementCategory::Device,

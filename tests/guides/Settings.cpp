@@ -1,5 +1,5 @@
-// The code of docs/settings.md and docs/rules.md at work; CodeBlocks checks that the guides quote it
-// as it stands.
+// The code of docs/settings.md and docs/rules.md at work; CodeBlocks checks that the guides quote
+// it as it stands.
 
 #include <corvane/workbench/chrono/Duration.hpp>
 #include <corvane/workbench/kit/Element.hpp>
@@ -56,8 +56,7 @@ void Fan::describe(kit::Form& form) {
     form.integer("blades", "Blades", blades_).initially(6).range(2, 24);
     form.flag("reversible", "Reversible", reversible_);
     form.choice("drive", "Drive", drive_, {"fixed speed", "variable speed"});
-    form.duration("runUp", "Run-up time", runUp_)
-        .initially({3, chrono::Duration::Units::Seconds});
+    form.duration("runUp", "Run-up time", runUp_).initially({3, chrono::Duration::Units::Seconds});
     form.timeStamp("installed", "Installed", installed_).savedWhenNotInitial();
     form.uuid("asset", "Asset", asset_).generated(utils::core::Uuid::generate);
 
@@ -69,8 +68,8 @@ void Fan::describe(kit::Form& form) {
     form.number("highest", "Highest speed", highest_)
         .unit("1/min")
         .initially(900)
-        .rule([this] { return highest_ > lowest_; },
-              "The highest speed must lie above the lowest.", lowest_)
+        .rule([this] { return highest_ > lowest_; }, "The highest speed must lie above the lowest.",
+              lowest_)
         .visibleIf([this] { return isVariable(); }, drive_)
         .savedWhenVisible();
 
@@ -156,7 +155,7 @@ TEST_F(SettingsGuide, RefusesWhatIsNoValueAndKeepsWhatBreaksARule) {
 TEST_F(SettingsGuide, LooksAgainWhenWhatARuleDependsOnChanges) {
     fan.at("drive").set("variable speed");
     fan.at("lowest").set("900");
-    EXPECT_THAT(fan, Announced(R"(
+    EXPECT_THAT(bench, Announced(R"(
         value       F1.lowest: 900
         state       F1.highest: error: The highest speed must lie above the lowest.
         errors      F1: 2

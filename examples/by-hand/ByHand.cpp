@@ -1,7 +1,7 @@
 #include "MixerClass.hpp"
 #include <corvane/workbench/skill/Skill.hpp>
 
-namespace first_skill {
+namespace by_hand {
 
 namespace {
 
@@ -27,4 +27,4 @@ const FirstSkillClass kFirstSkill;
 
 } // namespace
 
-} // namespace first_skill
+} // namespace by_hand

@@ -155,7 +155,7 @@ private:
         if (!std::regex_match(path.parent_path().generic_string(), inBuild)) {
             return false;
         }
-        const fs::path here = fs::path(FIRST_SKILL_LIBRARY).parent_path() / path.stem();
+        const fs::path here = fs::path(LIBRARY_FOLDER) / path.stem();
         return std::ranges::any_of(
             std::vector<std::string>{"", ".so", ".dll", ".exe"},
             [&](const std::string& extension) { return fs::exists(here.string() + extension); });

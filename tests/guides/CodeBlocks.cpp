@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <ostream>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -95,35 +97,56 @@ std::vector<std::size_t> strangers(const Lines& guide, const std::vector<Lines>&
     return result;
 }
 
-void expectQuotes(std::string_view name, const std::vector<std::filesystem::path>& paths,
-                  std::size_t count) {
-    const Lines guide = linesOf(std::filesystem::path(GUIDES_FOLDER) / name);
+struct Guide {
+    std::string_view name;
+    /// Files and folders of the checkout.
+    std::vector<std::string_view> sources;
+    std::size_t blockCount;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Guide& guide) {
+    return stream << guide.name;
+}
+
+class CodeBlocksOf : public ::testing::TestWithParam<Guide> {};
+
+TEST_P(CodeBlocksOf, StandInFilesThatAreCompiled) {
+    const std::filesystem::path checkout = CHECKOUT_FOLDER;
+    const Lines guide = linesOf(checkout / GetParam().name);
     std::vector<Lines> files;
-    for (const std::filesystem::path& path : paths) {
-        files.push_back(linesOf(path));
+    for (const std::string_view source : GetParam().sources) {
+        if (std::filesystem::is_directory(checkout / source)) {
+            for (const auto& entry : std::filesystem::directory_iterator(checkout / source)) {
+                files.push_back(linesOf(entry.path()));
+            }
+        } else {
+            files.push_back(linesOf(checkout / source));
+        }
     }
-    EXPECT_EQ(codeBlocks(guide).size(), count);
+    EXPECT_EQ(codeBlocks(guide).size(), GetParam().blockCount);
     for (const std::size_t line : strangers(guide, files)) {
-        ADD_FAILURE() << name << ':' << line << ": this code stands in no file of the example";
+        ADD_FAILURE() << GetParam().name << ':' << line
+                      << ": this code stands in no file of the example";
     }
 }
 
-TEST(CodeBlocks, OfTheGuideToSkillsAreThoseOfTheExample) {
-    std::vector<std::filesystem::path> files{TESTS_FOLDER "/FirstSkill.cpp"};
-    for (const auto& entry : std::filesystem::directory_iterator(EXAMPLE_FOLDER)) {
-        files.push_back(entry.path());
-    }
-    expectQuotes("writing-a-skill.md", files, 22);
-}
-
-TEST(CodeBlocks, OfTheGuideToPropertiesAreThoseOfItsTest) {
-    expectQuotes("properties.md", {TESTS_FOLDER "/PropertiesGuide.cpp"}, 8);
-}
-
-TEST(CodeBlocks, OfTheGuideToReferencesAreThoseOfItsTest) {
-    expectQuotes("references.md",
-                 {TESTS_FOLDER "/ReferencesGuide.cpp", EXAMPLE_FOLDER "/Mixer.cpp"}, 3);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Every, CodeBlocksOf,
+    ::testing::Values(
+        Guide{"README.md", {"examples/first-skill"}, 1},
+        Guide{"docs/settings.md", {"tests/guides/Settings.cpp"}, 2},
+        Guide{"docs/rules.md", {"tests/guides/Settings.cpp"}, 3},
+        Guide{"docs/rows.md", {"tests/guides/Rows.cpp"}, 4},
+        Guide{"docs/members.md", {"tests/guides/Rows.cpp"}, 1},
+        Guide{"docs/files.md", {"examples/first-skill"}, 1},
+        Guide{"docs/by-hand.md", {"examples/by-hand", "tests/first-skill/FirstSkill.cpp"}, 22},
+        Guide{"docs/properties.md", {"tests/guides/Properties.cpp"}, 8},
+        Guide{"docs/references.md", {"tests/guides/References.cpp", "examples/by-hand"}, 3}),
+    [](const auto& guide) {
+        std::string name(guide.param.name);
+        std::ranges::replace_if(name, [](char letter) { return !std::isalnum(letter); }, '_');
+        return name;
+    });
 
 TEST(CodeBlocks, AreFoundInsideAFileWhateverItsIndentation) {
     const Lines guide = linesOf(std::string("text\n```cpp\nif (a) {\n    b();\n\n}\n```\n"));
