@@ -1,0 +1,13 @@
+#pragma once
+
+// What the files of this skill call the library.
+
+namespace corvane::workbench::kit {}
+namespace corvane::workbench::model {}
+
+namespace @NAMESPACE@ {
+
+namespace kit = corvane::workbench::kit;
+namespace model = corvane::workbench::model;
+
+} // namespace @NAMESPACE@
