@@ -100,7 +100,7 @@ private:
             introduced_.insert(text);
             static const std::regex inCheckout(
                 R"((\.ci|bench|cmake|docs|examples|fuzz|host|include|kit|platform|src|testing|tests|tools)/[\w./-]*)");
-            if (std::regex_match(text, inCheckout)) {
+            if (!inProject_ && std::regex_match(text, inCheckout)) {
                 expect(text, text);
             }
         }
@@ -109,6 +109,9 @@ private:
     void readCommand(const std::string& command) {
         ++commandCount_;
         const std::vector<std::string> words = wordsOf(command);
+        if (command.starts_with("skillbench new ")) {
+            inProject_ = true;
+        }
         for (std::size_t index = 0; index < words.size(); ++index) {
             std::string word = words[index];
             const std::string before = index == 0 ? "" : words[index - 1];
@@ -145,7 +148,7 @@ private:
             return end == folder.end();
         };
         // A page that shows what is said of a file that does not exist calls it so.
-        return path.stem() == "missing" || fs::exists(CHECKOUT_FOLDER / path) ||
+        return inProject_ || path.stem() == "missing" || fs::exists(CHECKOUT_FOLDER / path) ||
                introduced_.contains(word) || std::ranges::any_of(made_, holds) || isBuilt(path);
     }
 
@@ -168,6 +171,8 @@ private:
     }
 
     fs::path folder_;
+    /// The page has made a project of its own, in which it goes on; the project is tested by itself.
+    bool inProject_ = false;
     std::set<std::string> introduced_;
     std::vector<fs::path> made_;
     std::vector<std::string> missing_;

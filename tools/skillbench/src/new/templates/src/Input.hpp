@@ -5,6 +5,8 @@
 #include <corvane/workbench/kit/Row.hpp>
 #include <corvane/workbench/model/AttributeReference.hpp>
 
+#include <string>
+
 namespace @NAMESPACE@ {
 
 /// A row of the list of inputs: an attribute of another element, and its share.
@@ -14,6 +16,7 @@ public:
 
 private:
     void describe(kit::Form& form) override;
+    [[nodiscard]] std::wstring displayText() const;
 
     model::AttributeReference source_;
 };

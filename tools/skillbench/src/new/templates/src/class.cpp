@@ -3,7 +3,9 @@
 namespace @NAMESPACE@ {
 
 void @CLASS@::describe(kit::Form& form) {
-    form.text("location", "Location", location_).initially("Hall 1").required("Enter the location.");
+    form.text("location", "Location", location_)
+        .initially("Hall 1")
+        .required("Enter the location.");
     form.choice("mode", "Mode", mode_, {"manual", "automatic"}).initially(Mode::Automatic);
     form.number("limit", "Limit", limit_)
         .unit("%")
@@ -17,7 +19,7 @@ void @CLASS@::describe(kit::Form& form) {
         .proposes(&Input::share, 10)
         .savedWhenNotInitial();
 
-    form.attribute("level", model::Attribute::Access::ReadOnly, {2, 8});
+    form.attribute("level", model::Attribute::Access::ReadOnly, data::DataType::kAny);
     form.event("limitExceeded");
     form.task("reset");
 }
