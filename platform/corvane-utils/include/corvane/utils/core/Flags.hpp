@@ -12,10 +12,10 @@ namespace corvane::utils::core {
 template <class E>
 inline constexpr std::size_t kFlagCount = 32;
 
-template <class E>
-    requires std::is_enum_v<E>
 /// A set of enumerators kept as one bit each: bit n stands for the enumerator with value n.
 /// A plain value of 32 bits; no thread rules beyond those of an integer.
+template <class E>
+    requires std::is_enum_v<E>
 class Flags {
 public:
     static_assert(kFlagCount<E> <= 32);
@@ -24,12 +24,14 @@ public:
     constexpr Flags() noexcept = default;
 
     /// @throws std::out_of_range "invalid bitset position", as test() does.
+    /// @{
     constexpr Flags(E flag) : bits_(maskOf(flag)) {}
     constexpr Flags(std::initializer_list<E> flags) {
         for (const E flag : flags) {
             set(flag);
         }
     }
+    /// @}
 
     /// Takes the bits as they are, also those at positions that no enumerator has.
     [[nodiscard]] static constexpr Flags fromBits(std::uint32_t bits) noexcept {
@@ -37,13 +39,17 @@ public:
         flags.bits_ = bits;
         return flags;
     }
+    /// Bit n stands for the enumerator with value n.
     [[nodiscard]] constexpr std::uint32_t bits() const noexcept { return bits_; }
 
     /// @throws std::out_of_range "invalid bitset position" for an enumerator that is negative or
     ///         not less than kFlagCount<E>.
     [[nodiscard]] constexpr bool test(E flag) const { return (bits_ & maskOf(flag)) != 0; }
+    /// Bits at positions that no enumerator has count as well.
+    /// @{
     [[nodiscard]] constexpr bool any() const noexcept { return bits_ != 0; }
     [[nodiscard]] constexpr bool none() const noexcept { return bits_ == 0; }
+    /// @}
 
     /// @throws std::out_of_range as test() does; the flags are then unchanged.
     constexpr Flags& set(E flag) {
@@ -56,20 +62,25 @@ public:
         return *this;
     }
 
+    /// Adds the other's bits.
     constexpr Flags& operator|=(Flags other) noexcept {
         bits_ |= other.bits_;
         return *this;
     }
+    /// Keeps the bits that both have.
     constexpr Flags& operator&=(Flags other) noexcept {
         bits_ &= other.bits_;
         return *this;
     }
+    /// The bits that either has.
     [[nodiscard]] friend constexpr Flags operator|(Flags left, Flags right) noexcept {
         return left |= right;
     }
+    /// The bits that both have.
     [[nodiscard]] friend constexpr Flags operator&(Flags left, Flags right) noexcept {
         return left &= right;
     }
+    /// Compares all bits.
     [[nodiscard]] friend constexpr bool operator==(Flags left, Flags right) noexcept = default;
 
 private:

@@ -17,10 +17,12 @@ namespace corvane::utils::core {
 /// the nil identifier.
 class CORVANE_UTILS_EXPORT Uuid {
 public:
+    /// The bytes in network order.
     using Bytes = std::array<std::uint8_t, 16>;
 
     /// The nil identifier: all bytes are zero.
     constexpr Uuid() noexcept = default;
+    /// Takes any bytes: version and variant are not checked.
     constexpr explicit Uuid(const Bytes& bytes) noexcept : bytes_(bytes) {}
 
     /// Reads the form 8-4-4-4-12 of hexadecimal digits in either case, which must be the whole
@@ -35,7 +37,9 @@ public:
     /// The form 8-4-4-4-12 in lower case.
     [[nodiscard]] std::string toString() const;
 
+    /// Whether all bytes are zero.
     [[nodiscard]] constexpr bool isNil() const noexcept { return bytes_ == Bytes{}; }
+    /// In network order.
     [[nodiscard]] constexpr const Bytes& bytes() const noexcept { return bytes_; }
 
     /// Orders by bytes, which is also the order of the texts.

@@ -1,9 +1,5 @@
 #pragma once
 
-// A reference to something callable, with the meaning of C++26's std::function_ref (without its
-// constant-argument constructors). It neither copies nor owns the callable: pass it down the
-// stack only. It is never null. Calling is as thread-safe as the callable.
-
 #include <functional>
 #include <memory>
 #include <type_traits>
@@ -11,6 +7,9 @@
 
 namespace corvane::utils::core {
 
+/// A reference to something callable, with the meaning of C++26's std::function_ref (without its
+/// constant-argument constructors). It neither copies nor owns the callable: pass it down the
+/// stack only. It is never null. Calling is as thread-safe as the callable.
 template <class Signature>
 class function_ref;
 
@@ -80,6 +79,7 @@ concept Dangling = !std::is_same_v<T, Self> && !std::is_pointer_v<T>;
 
 } // namespace detail
 
+/// To a callable that is called as it is, const or not.
 template <class R, class... Args>
 class function_ref<R(Args...)>
     : public detail::FunctionReference<function_ref<R(Args...)>, false, false, R, Args...> {
@@ -89,6 +89,7 @@ public:
     function_ref& operator=(T) = delete;
 };
 
+/// To a callable that is called as a const object.
 template <class R, class... Args>
 class function_ref<R(Args...) const>
     : public detail::FunctionReference<function_ref<R(Args...) const>, true, false, R, Args...> {
@@ -98,6 +99,7 @@ public:
     function_ref& operator=(T) = delete;
 };
 
+/// To a callable that does not throw when it is called as it is, const or not.
 template <class R, class... Args>
 class function_ref<R(Args...) noexcept>
     : public detail::FunctionReference<function_ref<R(Args...) noexcept>, false, true, R, Args...> {
@@ -107,6 +109,7 @@ public:
     function_ref& operator=(T) = delete;
 };
 
+/// To a callable that does not throw when it is called as a const object.
 template <class R, class... Args>
 class function_ref<R(Args...) const noexcept>
     : public detail::FunctionReference<function_ref<R(Args...) const noexcept>, true, true, R,
@@ -117,6 +120,7 @@ public:
     function_ref& operator=(T) = delete;
 };
 
+/// A pointer to a function determines the signature.
 template <class F>
     requires std::is_function_v<F>
 function_ref(F*) -> function_ref<F>;

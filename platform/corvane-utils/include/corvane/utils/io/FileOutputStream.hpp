@@ -31,6 +31,7 @@ public:
 
     /// The path as it was given (UTF-8).
     [[nodiscard]] std::string description() const override;
+    /// The path as it was given.
     [[nodiscard]] const std::filesystem::path& path() const noexcept { return path_; }
 
 private:

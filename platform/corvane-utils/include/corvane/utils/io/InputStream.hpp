@@ -54,6 +54,7 @@ protected:
     [[nodiscard]] std::basic_string_view<Char> buffered() const noexcept {
         return {position_, static_cast<std::size_t>(end_ - position_)};
     }
+    /// Gives the stream what it delivers next. The characters are borrowed until they are used up.
     void setBuffer(std::basic_string_view<Char> characters) noexcept {
         position_ = characters.data();
         end_ = characters.data() + characters.size();

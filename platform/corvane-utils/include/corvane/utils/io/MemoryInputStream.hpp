@@ -12,6 +12,7 @@ namespace corvane::utils::io {
 template <class Char>
 class MemoryInputStream final : public InputStream<Char> {
 public:
+    /// Borrows the text.
     explicit MemoryInputStream(std::basic_string_view<Char> text) noexcept {
         this->setBuffer(text);
     }

@@ -30,6 +30,7 @@ public:
         }
         *position_++ = character;
     }
+    /// @pre The stream is not closed.
     void write(std::basic_string_view<Char> text) {
         if (text.size() <= static_cast<std::size_t>(end_ - position_)) {
             position_ =
@@ -67,13 +68,18 @@ public:
 protected:
     OutputStream() = default;
 
+    /// Gives the stream its buffer; what stands before `position` counts as written but not yet
+    /// flushed.
     void setBuffer(Char* begin, Char* position, Char* end) noexcept {
         begin_ = begin;
         position_ = position;
         end_ = end;
     }
+    /// The first character of the buffer, as it was given.
     [[nodiscard]] Char* bufferBegin() const noexcept { return begin_; }
+    /// Behind the last character that was written.
     [[nodiscard]] Char* bufferPosition() const noexcept { return position_; }
+    /// The end of the buffer, as it was given.
     [[nodiscard]] Char* bufferEnd() const noexcept { return end_; }
 
 private:

@@ -27,8 +27,11 @@ public:
         }
         return *std::launder(reinterpret_cast<T*>(storage_));
     }
+    /// What get() returns.
+    /// @{
     [[nodiscard]] T& operator*() { return get(); }
     [[nodiscard]] T* operator->() { return &get(); }
+    /// @}
 
 private:
     enum class State { Empty, Constructing, Ready };

@@ -9,8 +9,11 @@
 
 namespace corvane::utils::numeric {
 
+/// Decimal digits, with a minus sign in front of a negative number.
+/// @{
 [[nodiscard]] CORVANE_UTILS_EXPORT string::BasicStaticString<char, 20> format(std::int64_t number);
 [[nodiscard]] CORVANE_UTILS_EXPORT string::BasicStaticString<char, 20> format(std::uint64_t number);
+/// @}
 
 /// The shortest text that reads back as the same number, plain or scientific, whichever is
 /// shorter: "250", "1.5", "1e+30". "inf", "-inf" and "nan" for what is no number.

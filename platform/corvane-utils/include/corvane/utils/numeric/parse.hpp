@@ -13,8 +13,8 @@ namespace corvane::utils::numeric {
 
 /// A number at the start of a text and how many characters it takes.
 struct ParsedDouble {
-    double value;
-    std::size_t length;
+    double value;       ///< as near as a double comes to it
+    std::size_t length; ///< in characters
 };
 
 /// Reads the longest number at the very start of the text, in plain or scientific notation. A
@@ -29,6 +29,8 @@ parseDoublePrefix(std::string_view text) noexcept;
 template <class T>
 [[nodiscard]] std::optional<T> parse(std::string_view text) noexcept = delete;
 
+/// One of the forms above.
+/// @{
 template <>
 [[nodiscard]] CORVANE_UTILS_EXPORT std::optional<std::int64_t>
 parse<std::int64_t>(std::string_view text) noexcept;
@@ -38,5 +40,6 @@ parse<std::uint64_t>(std::string_view text) noexcept;
 template <>
 [[nodiscard]] CORVANE_UTILS_EXPORT std::optional<double>
 parse<double>(std::string_view text) noexcept;
+/// @}
 
 } // namespace corvane::utils::numeric

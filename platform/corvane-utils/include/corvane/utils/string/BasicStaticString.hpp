@@ -25,21 +25,32 @@ namespace detail {
 template <class Char, std::size_t Capacity>
 class BasicStaticString {
 public:
+    /// The character, and a borrowed text of such characters.
+    /// @{
     using value_type = Char;
     using View = std::basic_string_view<Char>;
+    /// @}
 
     constexpr BasicStaticString() noexcept = default;
+    /// Copies the text.
     constexpr explicit BasicStaticString(View text) { append(text); }
 
+    /// In characters.
+    /// @{
     [[nodiscard]] static constexpr std::size_t capacity() noexcept { return Capacity; }
     [[nodiscard]] constexpr std::size_t size() const noexcept { return size_; }
     [[nodiscard]] constexpr bool empty() const noexcept { return size_ == 0; }
+    /// @}
+
     /// The characters; they are not terminated by a null character.
     [[nodiscard]] constexpr const Char* data() const noexcept { return characters_.data(); }
+    /// Valid until the text changes.
+    /// @{
     [[nodiscard]] constexpr const Char* begin() const noexcept { return data(); }
     [[nodiscard]] constexpr const Char* end() const noexcept { return data() + size_; }
     [[nodiscard]] constexpr View view() const noexcept { return View(data(), size_); }
     constexpr operator View() const noexcept { return view(); }
+    /// @}
 
     /// @throws std::length_error when the text becomes too long.
     constexpr BasicStaticString& append(View text) {
@@ -52,6 +63,7 @@ public:
     }
     /// @throws std::length_error when the text becomes too long.
     constexpr void push_back(Char character) { append(View(&character, 1)); }
+    /// Leaves an empty text.
     constexpr void clear() noexcept { size_ = 0; }
 
     /// Replaces the text by what `write(begin, end)` writes into the whole capacity; it returns
@@ -62,6 +74,8 @@ public:
         size_ = static_cast<std::size_t>(write(begin, begin + Capacity) - begin);
     }
 
+    /// Compares the texts alone, whatever the capacity still holds behind them.
+    /// @{
     [[nodiscard]] friend constexpr bool operator==(const BasicStaticString& left,
                                                    const BasicStaticString& right) noexcept {
         return left.view() == right.view();
@@ -70,6 +84,7 @@ public:
                                                    View right) noexcept {
         return left.view() == right;
     }
+    /// @}
 
 private:
     std::array<Char, Capacity> characters_{};

@@ -7,6 +7,7 @@ struct AllowLegacyMicrosecondsTag {
     explicit AllowLegacyMicrosecondsTag() = default;
 };
 
+/// The tag's one value.
 inline constexpr AllowLegacyMicrosecondsTag kAllowLegacyMicroseconds{};
 
 } // namespace corvane::utils::json::decoder

@@ -18,16 +18,25 @@ public:
     /// A single-pass iterator: all iterators of an array stand at the same element.
     class Iterator {
     public:
+        /// What a standard input iterator declares.
+        /// @{
         using iterator_concept = std::input_iterator_tag;
         using value_type = Value;
         using difference_type = std::ptrdiff_t;
+        /// @}
 
+        /// The element; valid until the walk goes on.
         [[nodiscard]] Value& operator*() const noexcept { return array_->value_; }
+        /// Goes on to the next element, with all iterators of the array.
+        /// @{
         Iterator& operator++() noexcept {
             array_->value_.index_ = array_->tape_->behind(array_->value_.index_);
             return *this;
         }
         void operator++(int) noexcept { ++*this; }
+        /// @}
+
+        /// Whether the walk has ended.
         [[nodiscard]] friend bool operator==(const Iterator& iterator,
                                              std::default_sentinel_t) noexcept {
             return iterator.array_->value_.index_ == iterator.array_->behind_;
@@ -46,6 +55,7 @@ public:
 
     /// Starts the walk, or stays where it is when it has started.
     [[nodiscard]] Iterator begin() noexcept { return Iterator(*this); }
+    /// The end of every walk.
     [[nodiscard]] static std::default_sentinel_t end() noexcept { return std::default_sentinel; }
 
     /// How many elements the array has in all.

@@ -9,6 +9,7 @@ namespace corvane::utils::json::decoder {
 /// that is thrown (detail::WrappedException) derives from one besides.
 class CORVANE_UTILS_EXPORT Exception {
 public:
+    /// The place may be unknown.
     explicit Exception(const Location& location) noexcept : location_(location) {}
     virtual ~Exception();
 
@@ -18,8 +19,11 @@ public:
     [[nodiscard]] virtual const char* message() const noexcept = 0;
 
 protected:
+    /// Copied by the class that is thrown, never on its own.
+    /// @{
     Exception(const Exception&) = default;
     Exception& operator=(const Exception&) = default;
+    /// @}
 
 private:
     Location location_;

@@ -15,10 +15,13 @@ public:
 
     /// Whether the place is known.
     [[nodiscard]] constexpr explicit operator bool() const noexcept { return line_ != 0; }
-    /// 0 when the place is not known; likewise for column().
+    /// 0 when the place is not known.
+    /// @{
     [[nodiscard]] constexpr std::uint64_t line() const noexcept { return line_; }
     [[nodiscard]] constexpr std::uint64_t column() const noexcept { return column_; }
+    /// @}
 
+    /// Compares line and column.
     [[nodiscard]] friend constexpr bool operator==(const Location& left,
                                                    const Location& right) noexcept = default;
 

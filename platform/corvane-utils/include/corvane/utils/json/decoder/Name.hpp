@@ -18,8 +18,10 @@ public:
         : text_(text), location_(location) {}
 
     /// The name's text (UTF-8).
+    /// @{
     [[nodiscard]] std::string_view text() const noexcept { return text_; }
     operator std::string_view() const noexcept { return text_; }
+    /// @}
 
     /// Compares the text.
     [[nodiscard]] friend bool operator==(const Name& name, std::string_view text) noexcept {

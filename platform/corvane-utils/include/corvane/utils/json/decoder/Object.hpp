@@ -24,18 +24,28 @@ public:
     /// A single-pass iterator: all iterators of an object stand at the same member.
     class Iterator {
     public:
+        /// What a standard input iterator declares.
+        /// @{
         using iterator_concept = std::input_iterator_tag;
         using value_type = Member;
         using difference_type = std::ptrdiff_t;
+        /// @}
 
+        /// The member; its value is valid until the walk goes on.
         [[nodiscard]] Member operator*() const noexcept {
             return Member{object_->name_, object_->value_};
         }
+        /// Goes on to the next member, with all iterators of the object. Throws what a filter
+        /// throws.
+        /// @{
         Iterator& operator++() {
             object_->advance();
             return *this;
         }
         void operator++(int) { ++*this; }
+        /// @}
+
+        /// Whether the walk has ended.
         [[nodiscard]] friend bool operator==(const Iterator& iterator,
                                              std::default_sentinel_t) noexcept {
             return iterator.object_->atEnd_;
@@ -67,6 +77,7 @@ public:
         }
         return Iterator(*this);
     }
+    /// The end of every walk.
     [[nodiscard]] static std::default_sentinel_t end() noexcept { return std::default_sentinel; }
 
     /// How many members the object has in all, those for filters included.

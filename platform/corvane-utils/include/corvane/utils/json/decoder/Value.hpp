@@ -31,6 +31,8 @@ public:
     Value(const Value&) = delete;
     Value& operator=(const Value&) = delete;
 
+    /// Which of the six kinds of JSON the value is; exactly one is true.
+    /// @{
     [[nodiscard]] bool isObject() const noexcept { return kind() == detail::TokenKind::Object; }
     [[nodiscard]] bool isArray() const noexcept { return kind() == detail::TokenKind::Array; }
     [[nodiscard]] bool isString() const noexcept {
@@ -43,15 +45,20 @@ public:
         return kind() == detail::TokenKind::True || kind() == detail::TokenKind::False;
     }
     [[nodiscard]] bool isNull() const noexcept { return kind() == detail::TokenKind::Null; }
+    /// @}
 
     /// What the value is, for messages: "an object", "an array", "a string", "a number",
     /// "a boolean", "null".
     [[nodiscard]] std::string_view kindName() const noexcept;
 
     /// Each call begins a walk of its own. Defined in Object.hpp and Array.hpp.
+    /// @{
     [[nodiscard]] Object asObject() const;
     [[nodiscard]] Array asArray() const;
+    /// @}
 
+    /// The content. No kind is converted into another.
+    /// @{
     [[nodiscard]] String asString() const {
         if (!isString()) {
             throwUnexpected("a string");
@@ -76,12 +83,17 @@ public:
             throwUnexpected("a number");
         }
     }
+    /// @}
+
     /// The number as that type. A double is accepted when it is a whole number.
     /// @throws detail::WrappedException of std::out_of_range when the number has a fraction ("the
     ///         number 1.5 is not a whole number") or does not fit ("the number 1e30 is out of
     ///         range").
+    /// @{
     [[nodiscard]] std::int64_t asInt64() const;
     [[nodiscard]] std::uint64_t asUInt64() const;
+    /// @}
+
     /// The number as a double; an integer is rounded to the nearest one.
     [[nodiscard]] double asDouble() const;
 

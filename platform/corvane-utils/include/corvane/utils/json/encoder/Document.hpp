@@ -13,6 +13,7 @@ namespace corvane::utils::json::encoder {
 /// document is used by one thread at a time.
 class CORVANE_UTILS_EXPORT Document {
 public:
+    /// How the text is laid out.
     enum class Format {
         Compact,  ///< no blank at all
         Indented, ///< two blanks a level, a line a member or element, a newline at the end

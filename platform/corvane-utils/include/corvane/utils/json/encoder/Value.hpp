@@ -26,13 +26,19 @@ public:
     /// as U+FFFD once per maximal subpart, so that the document can always be read.
     void writeString(std::string_view text) { writer_->writeString(ticket_, text); }
     /// Writes a number as it stands. @pre number is a number by the rules of JSON.
+    /// @{
     void writeNumber(std::string_view number) { writer_->writePlain(ticket_, number); }
     template <std::size_t Capacity>
     void writeNumber(const string::BasicStaticString<char, Capacity>& number) {
         writer_->writePlain(ticket_, number);
     }
+    /// @}
+
+    /// Writes the JSON literal.
+    /// @{
     void writeBool(bool value);
     void writeNull();
+    /// @}
 
 private:
     friend class Array;
