@@ -45,7 +45,9 @@ public:
     /// Null for the root.
     [[nodiscard]] skill::Element* skillElement() const noexcept { return skillElement_.get(); }
 
+    /// Null for the root and for an element outside any tree.
     [[nodiscard]] ElementNode* parent() const noexcept { return parent_; }
+    /// How many elements stand directly below.
     [[nodiscard]] std::size_t childCount() const noexcept { return children_.size(); }
     /// Precondition: index < childCount().
     [[nodiscard]] ElementNode& child(std::size_t index) const { return *children_[index]; }
@@ -56,12 +58,16 @@ public:
 
     /// Counts the invalid properties of the element and of everything below it:
     /// `properties().propertyErrorCount()`. Subscriptions must end before the element does.
+    /// @{
     [[nodiscard]] ElementProperties& properties() noexcept { return properties_; }
     [[nodiscard]] const ElementProperties& properties() const noexcept { return properties_; }
+    /// @}
 
     /// Where the element's class is named in the file it was loaded from; 0 when it was not loaded.
+    /// @{
     [[nodiscard]] std::uint64_t line() const noexcept { return line_; }
     [[nodiscard]] std::uint64_t column() const noexcept { return column_; }
+    /// @}
 
     /// The element's access-control list, kept as it was in the file.
     [[nodiscard]] const std::optional<json::Value>& accessControl() const noexcept {

@@ -15,11 +15,13 @@ class ElementNode;
 /// Part of an ElementNode; does not outlive it.
 class ElementProperties final : public bindings::PropertyContainer {
 public:
+    /// Becomes a part of the element; the link into the tree is made by the workbench.
     explicit ElementProperties(ElementNode& element) noexcept : element_(element) {}
     ElementProperties(const ElementProperties&) = delete;
     ElementProperties& operator=(const ElementProperties&) = delete;
     ~ElementProperties() override = default;
 
+    /// The element whose errors these are.
     [[nodiscard]] ElementNode& element() const noexcept { return element_; }
 
     /// Counts anew what is directly below, after elements were linked without counting.

@@ -6,6 +6,7 @@ namespace corvane::workbench::host {
 
 /// How far the loading of a configuration has come. See LoadOptions::progress.
 struct LoadProgress {
+    /// What the load is doing.
     enum class Stage {
         /// Reading the file; counted in bytes.
         Reading,
@@ -17,7 +18,9 @@ struct LoadProgress {
         Properties
     };
 
+    /// The stage that the numbers below belong to.
     Stage stage = Stage::Reading;
+    /// In the unit of the stage.
     std::uint64_t done = 0;
     /// 0 when unknown.
     std::uint64_t total = 0;

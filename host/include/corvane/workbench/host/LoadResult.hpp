@@ -15,6 +15,7 @@ struct LoadResult {
     /// In the order of the file.
     std::vector<Problem> problems;
 
+    /// Whether the configuration was loaded, with or without problems.
     explicit operator bool() const noexcept { return loaded; }
 };
 

@@ -14,11 +14,14 @@ namespace corvane::workbench::host {
 /// workbench, alive as long as it.
 class LoadedSkill {
 public:
+    /// Takes the instance over; the classes are referred to.
     LoadedSkill(const skill::Skill::Class& skillClass, std::unique_ptr<skill::Skill> instance,
                 std::vector<std::reference_wrapper<const skill::Element::Class>> elementClasses,
                 std::filesystem::path library);
 
+    /// The object that registered the skill; it belongs to the skill's library.
     [[nodiscard]] const skill::Skill::Class& skillClass() const noexcept { return skillClass_; }
+    /// The running instance.
     [[nodiscard]] skill::Skill& instance() const noexcept { return *instance_; }
     /// In the order in which the skill registered them.
     [[nodiscard]] const std::vector<std::reference_wrapper<const skill::Element::Class>>&

@@ -24,6 +24,7 @@ public:
     /// Where in a line the place of what happened begins, behind the indentation.
     static constexpr std::size_t kPlaceColumn = 12;
 
+    /// Subscribes to what there is now. Lines go to `out`, which must outlive this object.
     Notifications(Workbench& workbench, std::ostream& out);
     Notifications(const Notifications&) = delete;
     Notifications& operator=(const Notifications&) = delete;

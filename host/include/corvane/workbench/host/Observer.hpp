@@ -22,14 +22,21 @@ public:
     /// All elements but the root are about to be destroyed, because another configuration takes
     /// their place. Drop what refers to them, subscriptions to their properties included.
     virtual void configurationUnloading() {}
+    /// The elements of the new configuration are in the tree.
     virtual void configurationLoaded() {}
 
+    /// The element is in the tree.
     virtual void elementAdded(const ElementNode& /*element*/) {}
+    /// `oldKey` is the primary key that the element had before.
+    /// @{
     virtual void elementRenamed(const ElementNode& /*element*/, std::string_view /*oldKey*/) {}
     virtual void elementMoved(const ElementNode& /*element*/, std::string_view /*oldKey*/) {}
+    /// @}
+
     /// The element and everything below it is about to be destroyed; otherwise as
     /// configurationUnloading().
     virtual void elementRemoving(const ElementNode& /*element*/) {}
+    /// `key` is the primary key that the element had.
     virtual void elementRemoved(std::string_view /*key*/) {}
     /// The element's attributes, events or tasks are others than before.
     virtual void elementMembersChanged(const ElementNode& /*element*/) {}

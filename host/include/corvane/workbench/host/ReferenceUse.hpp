@@ -14,6 +14,7 @@ struct ReferenceUse {
     /// The element that holds the reference; null for a reference that no configured property of
     /// an element in the tree holds.
     const ElementNode* owner = nullptr;
+    /// The reference itself.
     const model::internal::BasicElementReference* reference = nullptr;
 };
 

@@ -19,6 +19,7 @@ class ElementNode;
 /// lists. Configures what it prints.
 class TreePrinter {
 public:
+    /// The stream must outlive the printer.
     explicit TreePrinter(std::ostream& out);
     /// With a margin in which ">" points at the lines of one property.
     TreePrinter(std::ostream& out, const bindings::PropertyHandle& pointedAt);

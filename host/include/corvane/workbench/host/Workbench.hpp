@@ -64,6 +64,7 @@ public:
     Result<void> addSkill(const skill::Skill::Class& skillClass);
     /// In the order in which they were added.
     [[nodiscard]] std::span<const std::unique_ptr<LoadedSkill>> skills() const noexcept;
+    /// The element classes of all skills.
     [[nodiscard]] const ElementClassRegistry& elementClasses() const noexcept;
 
     /// @}
@@ -88,10 +89,13 @@ public:
     /// @name The tree
     /// @{
 
+    /// The invisible root, which stays the same for the life of the workbench.
     [[nodiscard]] ElementNode& root() noexcept;
+    /// The same for reading.
     [[nodiscard]] const ElementNode& root() const noexcept;
     /// The element of that primary key, or null.
     [[nodiscard]] ElementNode* findElement(std::string_view key) const;
+    /// The element of that UUID, or null.
     [[nodiscard]] ElementNode* findElement(const utils::core::Uuid& uuid) const;
     /// How many elements there are, without the root.
     [[nodiscard]] std::size_t elementCount() const noexcept;
@@ -146,7 +150,9 @@ public:
     /// They are called in the order in which they were added and must be removed before they end.
     /// @{
 
+    /// The observer hears of every edit from now on, after those that were added before it.
     void addObserver(Observer& observer);
+    /// The observer hears of nothing more.
     void removeObserver(Observer& observer) noexcept;
 
     /// @}

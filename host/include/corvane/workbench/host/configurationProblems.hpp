@@ -14,13 +14,16 @@ namespace corvane::workbench::host {
 
 class Workbench;
 
+/// One thing that is wrong, and the property that it is about.
 struct ConfigurationProblem {
     /// Said as it is printed; a property's problem stands at its element.
     Problem problem;
     /// The key of the element and the path of the property that is not valid; empty for a problem
     /// of the load.
+    /// @{
     std::string element{};
     std::string property{};
+    /// @}
 };
 
 /// What is wrong with the configuration that the workbench has, whose load gave the result; `file`

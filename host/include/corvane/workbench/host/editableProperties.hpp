@@ -23,7 +23,9 @@ class Workbench;
 
 /// A property that a user may see, as its element describes it.
 struct PropertyPlace {
+    /// What the element says of the property.
     const skill::EditableProperty& property;
+    /// The path of the property in its element.
     const std::string& path;
     /// The row that holds the property; null when the element itself does.
     skill::SubElement* row;
@@ -40,7 +42,9 @@ void forEachProperty(const ElementNode& element,
 
 /// The key of an element and, joined to it, the path of one of its properties.
 struct PropertyAddress {
+    /// The element that the key names.
     ElementNode* element;
+    /// The path of the property in that element.
     std::string path;
 };
 
