@@ -29,6 +29,7 @@ namespace corvane::workbench::testing {
 /// Keys, paths and texts are UTF-8. Used on one thread.
 class Bench {
 public:
+    /// An element class as the constructor takes it: by reference.
     using ElementClass = std::reference_wrapper<const skill::Element::Class>;
 
     /// With the skills that are linked into the program. Throws std::runtime_error, as the others
@@ -50,6 +51,7 @@ public:
     BenchElement add(std::string_view elementClass, std::string_view name = {});
     /// The element of that key. Throws std::out_of_range when there is none.
     [[nodiscard]] BenchElement element(std::string_view key);
+    /// Whether there is an element of that key.
     [[nodiscard]] bool has(std::string_view key) const;
     /// The setting of that address: the key of an element, "." and the path of the setting, see
     /// BenchElement::at. Throws std::out_of_range when there is none.
@@ -64,10 +66,12 @@ public:
     /// Replaces all elements by those of a configuration. Throws Refused, with all problems, when
     /// it cannot be loaded as a whole. References that do not resolve do not stop it.
     void load(std::string_view json);
+    /// The same from a file.
     void loadFile(const std::filesystem::path& file);
     /// The same for a configuration that may be wrong. Problems of a text are located in
     /// "configuration.json".
     host::LoadResult tryLoad(std::string_view json, const host::LoadOptions& options = {});
+    /// The same from a file, which is then what the problems name.
     host::LoadResult tryLoadFile(const std::filesystem::path& file,
                                  const host::LoadOptions& options = {});
     /// What is wrong with what was loaded last, in the lines that `skillbench check` prints,
@@ -83,8 +87,10 @@ public:
     [[nodiscard]] std::vector<std::string> announced() const;
 
     /// For what has no operation here. Its edits are announced too.
+    /// @{
     [[nodiscard]] host::Workbench& workbench() noexcept { return workbench_; }
     [[nodiscard]] const host::Workbench& workbench() const noexcept { return workbench_; }
+    /// @}
 
     /// All elements as `skillbench show` prints them.
     [[nodiscard]] std::string tree() const;

@@ -24,6 +24,7 @@ class Setting;
 /// after the bench has ended.
 class BenchElement {
 public:
+    /// The primary key as it is now.
     [[nodiscard]] std::string key() const;
     /// The errors of the element and of everything below it.
     [[nodiscard]] std::uint64_t errorCount() const;
@@ -37,24 +38,31 @@ public:
     /// The settings as they are saved, as an object of JSON without whitespace.
     [[nodiscard]] std::string saved() const;
 
-    // The names of the members that the element adds to those every element has.
+    /// The names of the members that the element adds to those every element has.
+    /// @{
     [[nodiscard]] std::vector<std::string> attributes() const;
     [[nodiscard]] std::vector<std::string> events() const;
     [[nodiscard]] std::vector<std::string> tasks() const;
+    /// @}
 
     /// The addresses of the settings that refer to the element or its members, sorted.
     [[nodiscard]] std::vector<std::string> referrers() const;
 
-    // Edits. They throw Refused when the workbench refuses them.
+    /// @name Edits
+    /// They throw Refused when the workbench refuses them.
+    /// @{
 
     /// Adds a child of that class with its initial settings. Without a name it gets its class's
     /// default name.
     BenchElement add(std::string_view elementClass, std::string_view name = {}) const;
+    /// Gives it another name; references to it and below follow.
     void rename(std::string_view newName) const;
     /// Moves it behind the children of another parent; an empty key is the root.
     void moveTo(std::string_view parentKey) const;
     /// Removes it with everything below it.
     void remove() const;
+
+    /// @}
 
     /// The workbench's half of the element.
     [[nodiscard]] host::ElementNode& node() const;

@@ -24,9 +24,12 @@ class Setting {
 public:
     /// The element's key and the path, as `skillbench edit` prints them: "main.steps.1.speed".
     [[nodiscard]] std::string address() const;
+    /// The element that has the setting, also when a row holds it.
     [[nodiscard]] const BenchElement& element() const noexcept { return element_; }
 
+    /// The value as the user reads it.
     [[nodiscard]] std::string text() const;
+    /// Whether the user sees the setting.
     [[nodiscard]] bool visible() const;
     /// What is wrong with the value; empty when it is valid.
     [[nodiscard]] std::string error() const;
@@ -39,20 +42,29 @@ public:
     /// What the last edit announced of this setting, see Bench::announced().
     [[nodiscard]] std::vector<std::string> announced() const;
 
-    // Edits. What is refused throws Refused; the operations that only try return the reason
-    // instead, or an empty text when it is done.
+    /// @name Edits
+    /// What is refused throws Refused; the operations that only try return the reason instead, or
+    /// an empty text when it is done.
+    /// @{
 
     /// Enters a text. For a reference this is the key of its target.
     void set(std::string_view text) const;
+    /// The same, but only tries.
     [[nodiscard]] std::string trySet(std::string_view text) const;
     /// Inserts a row in front of the one with that index, or at the end.
     void insertRow(std::size_t index) const;
+    /// The same, but only tries.
     [[nodiscard]] std::string tryInsertRow(std::size_t index) const;
+    /// Removes the row with that index.
     void removeRow(std::size_t index) const;
+    /// The same, but only tries.
     [[nodiscard]] std::string tryRemoveRow(std::size_t index) const;
     /// Moves the row at `from` so that it stands at `to`.
     void moveRow(std::size_t from, std::size_t to) const;
+    /// The same, but only tries.
     [[nodiscard]] std::string tryMoveRow(std::size_t from, std::size_t to) const;
+
+    /// @}
 
     /// The description that the element gives of it, for what has no operation here. As good as the
     /// element or row that gave it.

@@ -163,11 +163,13 @@ template <class Text>
     return internal::settingMatcher<std::string>("has an error text that ", &Setting::error, error);
 }
 
+/// The user sees the setting.
 inline ::testing::Matcher<const Setting&> IsVisible() {
     return internal::settingMatcher<bool>("has a visibility that ", &Setting::visible,
                                           ::testing::Eq(true));
 }
 
+/// The user does not see the setting.
 inline ::testing::Matcher<const Setting&> IsHidden() {
     return ::testing::Not(IsVisible());
 }
