@@ -23,9 +23,11 @@ struct ClassDescription {
     Text id{};
     /// The same in every version: `"0e6b5c1a-6d0f-4a53-9f0e-1b6f0b6f7a03"_uuid`.
     utils::core::Uuid uuid{};
+    /// As shown to the user, translated; also the type text of the elements.
     Text displayName{};
     /// What elements of the class are for, in a sentence for the user.
     Text description{};
+    /// The category of its elements.
     model::ElementCategory category{};
     /// The categories of the elements that it takes as children.
     utils::core::Flags<model::ElementCategory> children{};
@@ -44,6 +46,7 @@ public:
     [[nodiscard]] std::wstring displayName() const override;
     [[nodiscard]] std::wstring description() const override;
     [[nodiscard]] model::ElementCategory category() const override;
+    /// Whether the class's category is among the `children` of the description.
     [[nodiscard]] bool allowChildElement(const Class& childClass) const override;
     [[nodiscard]] std::string defaultName() const override;
 
@@ -52,9 +55,11 @@ public:
     virtual void check() const = 0;
 
 protected:
+    /// Keeps a copy of the description.
     explicit BasicElementClass(const ClassDescription& description);
     ~BasicElementClass() override = default;
 
+    /// The part of check() that looks at the description of the class alone.
     void checkClass() const;
 
 private:
@@ -67,6 +72,7 @@ private:
 template <class T>
 class ElementClass : public BasicElementClass {
 public:
+    /// Keeps a copy of the description.
     explicit ElementClass(const ClassDescription& description) : BasicElementClass(description) {}
     ~ElementClass() override = default;
 

@@ -44,18 +44,20 @@ namespace corvane::workbench::kit {
 /// as a function is kept and called later: capture `this`, no local variables.
 ///
 /// Each setting has a name, unique in the object (its member in files and its name on command
-/// lines), and a display name.
+/// lines), and a display name. The user sees the settings, and files have them, in the order in
+/// which they are described.
 class Form {
 public:
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
     virtual ~Form();
 
-    /// @name Settings
-    /// In the order in which the user sees them, and in which they are saved.
+    /// @name Settings of one value
     /// @{
 
+    /// Any text, UTF-8.
     Setting<std::string> text(Text name, Text displayName, std::string& field);
+    /// A number with or without a fraction.
     Setting<double> number(Text name, Text displayName, double& field);
     /// A whole number; what does not fit the field's type is refused.
     template <std::integral Integer>
@@ -63,6 +65,7 @@ public:
     Setting<Integer> integer(Text name, Text displayName, Integer& field) {
         return begin(name, displayName, field, internal::IntegerKind<Integer>::kInstance);
     }
+    /// True or false in files.
     Setting<bool> flag(Text name, Text displayName, bool& field);
     /// One of the values 0, 1, ... of an enumeration. Their texts stand in files as they are and
     /// are translated for the user.
@@ -72,6 +75,7 @@ public:
                                 std::initializer_list<Text> texts) {
         return choice(name, displayName, field, std::span(texts.begin(), texts.size()));
     }
+    /// The same with the texts in an array, which is not needed after the call.
     template <class Enumeration>
         requires std::is_enum_v<Enumeration>
     Setting<Enumeration> choice(Text name, Text displayName, Enumeration& field,
@@ -81,6 +85,7 @@ public:
         keepChoices(texts);
         return setting;
     }
+    /// A time span, with its unit.
     Setting<chrono::Duration> duration(Text name, Text displayName, chrono::Duration& field);
     /// A time stamp such as "2024-05-06 07:08:09Z", kept as text so that fraction and offset stay
     /// as they were written; completed while it is typed. It may be empty. A file may hold
@@ -89,23 +94,33 @@ public:
     /// Completed while it is typed.
     Setting<utils::core::Uuid> uuid(Text name, Text displayName, utils::core::Uuid& field);
 
-    /// @name
-    /// References. The state of the property is whether they resolve, in the library's words; an
-    /// empty one is an error unless it is optional().
+    /// @}
+    /// @name References
+    /// The state of the property is whether they resolve, in the library's words; an empty one is
+    /// an error unless it is optional().
     /// @{
+
+    /// To an element.
     Setting<model::ElementReference> reference(Text name, Text displayName,
                                                model::ElementReference& field);
+    /// To an attribute of an element.
     Setting<model::AttributeReference> reference(Text name, Text displayName,
                                                  model::AttributeReference& field);
+    /// To an event of an element.
     Setting<process::EventReference> reference(Text name, Text displayName,
                                                process::EventReference& field);
+    /// To a task of an element.
     Setting<process::TaskReference> reference(Text name, Text displayName,
                                               process::TaskReference& field);
+
     /// @}
+    /// @name Settings of other shapes
+    /// @{
 
     /// Settings of any shape, kept without knowing their meaning, shown as a line of JSON. Empty
     /// ones are not saved.
     Setting<json::Object> json(Text name, Text displayName, json::Object& field);
+    /// The same for JSON of any kind.
     Setting<json::Value> json(Text name, Text displayName, json::Value& field);
 
     /// A list of rows, each described by itself.
@@ -147,21 +162,29 @@ public:
     /// @name Elements only
     /// @{
 
+    /// An attribute that is kept elsewhere, such as a predefined one.
     Member attribute(const model::Attribute& attribute);
     /// The attribute can be read, written, or both, as its access says.
     Member attribute(Text name, model::Attribute::Access access, const data::DataType& type);
+    /// An event that is kept elsewhere, such as a predefined one.
     Member event(const process::Event& event);
+    /// The event is relevant in the given directions.
     Member event(Text name, utils::core::Flags<io::Direction> directions = io::Direction::Read);
+    /// A task that is kept elsewhere, such as a predefined one.
     Member task(const process::Task& task);
+    /// A task of that name.
     Member task(Text name);
 
     /// @}
 
 protected:
+    /// Nothing is described before fillIn().
     Form(const internal::Subject& subject, internal::Purpose purpose) noexcept
         : subject_(subject), purpose_(purpose) {}
 
+    /// What describes itself.
     [[nodiscard]] const internal::Subject& subject() const noexcept { return subject_; }
+    /// The controller of the properties that are described.
     [[nodiscard]] bindings::PropertyController& owner() const noexcept {
         return *subject_.controller;
     }

@@ -13,23 +13,30 @@
 namespace corvane::workbench::kit {
 
 /// The rows of a list setting: a field of the element, described with Form::rows. A copy has copies
-/// of the rows.
+/// of the rows. size() and empty() tell how many there are.
 ///
 /// Rows are added while a file is read, and inserted, removed and moved by the user or by the
 /// skill. Whoever does it, error counts, addresses and notifications are right.
 template <class R>
 class Rows final : public internal::RowList {
 public:
+    /// The class of the rows.
     using RowType = R;
 
     /// Walks over the rows; good until one is inserted, removed or moved.
     class Iterator {
     public:
+        /// What a standard iterator declares.
+        /// @{
         using value_type = R;
         using difference_type = std::ptrdiff_t;
+        /// @}
 
         Iterator() noexcept = default;
+        /// The row; it keeps its address while it is in the list.
         [[nodiscard]] R& operator*() const noexcept { return (*rows_)[index_]; }
+        /// Goes on to the next row.
+        /// @{
         Iterator& operator++() noexcept {
             ++index_;
             return *this;
@@ -39,6 +46,9 @@ public:
             ++index_;
             return before;
         }
+        /// @}
+
+        /// Whether both stand at the same row of the same list.
         [[nodiscard]] friend bool operator==(const Iterator&, const Iterator&) noexcept = default;
 
     private:
@@ -50,6 +60,7 @@ public:
     };
 
     Rows() = default;
+    /// Copies the rows; the copies belong to the new list.
     Rows(const Rows& other) : RowList(other) {
         for (const R& row : other) {
             append(std::make_unique<R>(row));
@@ -58,11 +69,15 @@ public:
     Rows& operator=(const Rows&) = delete;
     ~Rows() override = default;
 
+    /// @pre there is a row at that index
     [[nodiscard]] R& operator[](std::size_t index) const noexcept {
         return static_cast<R&>(rowAt(index));
     }
+    /// The rows in their order.
+    /// @{
     [[nodiscard]] Iterator begin() const noexcept { return Iterator(*this, 0); }
     [[nodiscard]] Iterator end() const noexcept { return Iterator(*this, size()); }
+    /// @}
 
     /// Inserts a new row before the index, with its initial values and what the list proposes, and
     /// publishes the list. Throws std::out_of_range beyond the end.

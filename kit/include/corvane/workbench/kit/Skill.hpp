@@ -23,9 +23,11 @@ namespace corvane::workbench::kit {
 /// The classes may stand in any source file of the library, which holds one skill.
 class Skill : public skill::Skill::Class {
 public:
+    /// What a skill is, in one statement. See skill::Skill::Class.
     struct Description {
         /// Stable, the same in every version.
         Text id{};
+        /// As shown to the user, translated.
         Text displayName{};
         /// As shown to the user: "1.4.2".
         Text version{};
@@ -33,6 +35,7 @@ public:
         Text translationContext{};
     };
 
+    /// Registers the skill. The classes are referred to and checked in registerElementClasses().
     Skill(const Description& description,
           std::initializer_list<std::reference_wrapper<const skill::Element::Class>> classes);
     ~Skill() override;

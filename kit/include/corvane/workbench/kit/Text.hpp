@@ -9,11 +9,15 @@ namespace corvane::workbench::kit {
 class Text {
 public:
     constexpr Text() noexcept = default;
+    /// Only literals compile.
     // NOLINTNEXTLINE(google-explicit-constructor): literals are written as they are
     consteval Text(const char* literal) : text_(literal) {}
 
+    /// Terminated by a null character.
     [[nodiscard]] constexpr const char* data() const noexcept { return text_; }
+    /// Whether there is no character, as in a text that was left out.
     [[nodiscard]] constexpr bool empty() const noexcept { return *text_ == '\0'; }
+    /// The text without the null character.
     // NOLINTNEXTLINE(google-explicit-constructor): is one
     constexpr operator std::string_view() const noexcept { return text_; }
 

@@ -23,8 +23,8 @@ class Duration;
 
 namespace corvane::workbench::kit {
 
-/// @name Values as the user reads them
-/// Numbers as the shortest text that stands for them, narrow text as UTF-8.
+/// A value as the user reads it: a number as the shortest text that stands for it. Narrow text is
+/// UTF-8.
 /// @{
 [[nodiscard]] std::wstring valueText(double number);
 [[nodiscard]] std::wstring valueText(std::int64_t number);
@@ -47,6 +47,7 @@ template <std::unsigned_integral Integer>
 template <std::size_t Count>
 class Format {
 public:
+    /// Only literals compile. "{{" and "}}" stand for braces.
     // NOLINTNEXTLINE(google-explicit-constructor): literals are written as they are
     consteval Format(const char* literal) : text_(literal) {
         std::size_t places = 0;
@@ -64,6 +65,7 @@ public:
             throw "a text needs one {} for each value";
         }
     }
+    /// The text with its "{}".
     [[nodiscard]] constexpr Text text() const noexcept { return text_; }
 
 private:
@@ -88,11 +90,13 @@ template <class First, class... More>
 }
 
 /// The error of a State: the text as above.
+/// @{
 [[nodiscard]] tl::unexpected<std::wstring> error(Text english);
 template <class First, class... More>
 [[nodiscard]] tl::unexpected<std::wstring> error(Format<1 + sizeof...(More)> english,
                                                  const First& first, const More&... more) {
     return tl::unexpected(text(english, first, more...));
 }
+/// @}
 
 } // namespace corvane::workbench::kit
