@@ -42,6 +42,7 @@ public:
 
     /// 0 seconds.
     constexpr Duration() noexcept = default;
+    /// Any number is kept as it is.
     constexpr Duration(double value, Units units) noexcept : value_(value), units_(units) {}
 
     /// The same span in the unit of the given type if there is one, else in the largest unit of
@@ -56,8 +57,11 @@ public:
     template <class Span>
     [[nodiscard]] Span to() const;
 
+    /// The pair as it was given.
+    /// @{
     [[nodiscard]] constexpr double value() const noexcept { return value_; }
     [[nodiscard]] constexpr Units units() const noexcept { return units_; }
+    /// @}
 
     /// Compares the two fields: 1000 milliseconds are not 1 second. Use to() to compare lengths.
     friend constexpr bool operator==(const Duration&, const Duration&) noexcept = default;
@@ -80,8 +84,10 @@ public:
     /// Writes a JSON string.
     void save(utils::json::encoder::Value& target) const;
     /// Adds an element or a member that holds the duration.
+    /// @{
     void saveTo(utils::json::encoder::Array& target) const;
     void saveTo(utils::json::encoder::Object& target, std::string_view name) const;
+    /// @}
 
 private:
     /// A unit, or a tick of the standard library, as a fraction of a second.

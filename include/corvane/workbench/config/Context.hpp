@@ -39,17 +39,23 @@ public:
     class ReferenceKey;
 
     Context();
+    /// The interface itself has no state to copy.
+    /// @{
     Context(const Context& other);
     Context& operator=(const Context& other);
+    /// @}
+
     virtual ~Context() = 0;
 
     /// Requests that the reference be filled with what the key names, and returns at once. The
     /// reference must stay at its address, neither moved nor destroyed, until the context has
     /// dealt with the request.
+    /// @{
     void resolve(ReferenceKey key, std::reference_wrapper<model::ElementReference> reference);
     void resolve(ReferenceKey key, std::reference_wrapper<model::AttributeReference> reference);
     void resolve(ReferenceKey key, std::reference_wrapper<process::EventReference> reference);
     void resolve(ReferenceKey key, std::reference_wrapper<process::TaskReference> reference);
+    /// @}
 
 private:
     /// Takes a request whose whole key names an element. The completion callback may be empty;
@@ -78,14 +84,21 @@ public:
     /// Copies a text that comes from no configuration file.
     ReferenceKey(std::string_view text, WithoutLocationTag tag);
 
+    /// Copied and moved as the text is.
+    /// @{
     ReferenceKey(const ReferenceKey& other);
     ReferenceKey(ReferenceKey&& other) noexcept;
     ReferenceKey& operator=(const ReferenceKey& other);
     ReferenceKey& operator=(ReferenceKey&& other) noexcept;
+    /// @}
+
     ~ReferenceKey();
 
+    /// The text; a temporary key gives it up.
+    /// @{
     [[nodiscard]] const std::string& text() const& noexcept { return text_; }
     [[nodiscard]] std::string&& text() && noexcept { return std::move(text_); }
+    /// @}
 
 private:
     std::string text_;

@@ -8,6 +8,7 @@ struct WithoutLocationTag {
     explicit constexpr WithoutLocationTag() = default;
 };
 
+/// The tag's one value.
 inline constexpr WithoutLocationTag kWithoutLocation{};
 
 } // namespace corvane::workbench::config

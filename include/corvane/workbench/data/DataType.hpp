@@ -9,17 +9,24 @@ namespace corvane::workbench::data {
 /// A small value that the library carries through unchanged; it knows the named constants below,
 /// all other pairs are defined by the runtime.
 struct DataType {
+    /// One pair of numbers, which only the runtime interprets.
+    /// @{
     std::uint32_t kind = 0;
     std::uint32_t size = 0;
+    /// @}
 
+    /// Compares field by field.
     friend constexpr bool operator==(const DataType&, const DataType&) noexcept = default;
 
+    /// The type of the predefined attributes' values; see model::Attribute.
+    /// @{
     static const DataType kDeviceState;
     static const DataType kText;
     static const DataType kTimeStamp;
     static const DataType kUuid;
     static const DataType kQuality;
     static const DataType kElementCategory;
+    /// @}
 
     /// The type of an attribute of which nothing is known, as custom elements have it.
     static const DataType kAny;

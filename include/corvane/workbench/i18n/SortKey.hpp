@@ -19,9 +19,12 @@ public:
     /// Takes the first 2147483647 code units of the UTF-16 text. May be called from any thread.
     explicit SortKey(std::wstring_view text);
 
+    /// As SortOrdering compares the texts.
+    /// @{
     friend std::weak_ordering operator<=>(const SortKey& left,
                                           const SortKey& right) noexcept = default;
     friend bool operator==(const SortKey& left, const SortKey& right) noexcept = default;
+    /// @}
 
 private:
     // Compare byte by byte.

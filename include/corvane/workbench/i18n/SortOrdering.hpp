@@ -13,10 +13,13 @@ namespace corvane::workbench::i18n {
 class CORVANE_WORKBENCH_EXPORT SortOrdering {
 public:
     SortOrdering() = default;
+    /// There is nothing to copy: all objects are alike.
+    /// @{
     SortOrdering(const SortOrdering&) = default;
     SortOrdering(SortOrdering&&) = default;
     SortOrdering& operator=(const SortOrdering&) noexcept { return *this; }
     SortOrdering& operator=(SortOrdering&&) noexcept { return *this; }
+    /// @}
 
     /// Compares two UTF-16 texts as the user's language does, without regard to case, and runs of
     /// digits by their value: "Item 2" comes before "item 10". Texts that differ only in case are

@@ -8,6 +8,7 @@ struct DecodingOptions {
     /// Concerns the members of the outermost object only; nested objects never tolerate it.
     bool allowDuplicateMembers = false;
 
+    /// Compares field by field.
     friend bool operator==(const DecodingOptions&, const DecodingOptions&) = default;
 };
 

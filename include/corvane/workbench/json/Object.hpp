@@ -35,10 +35,14 @@ class Value;
 /// of std::vector. Decoding refuses a name that comes twice; appending does not look.
 class CORVANE_WORKBENCH_EXPORT Object {
 public:
+    /// A name (UTF-8) and its value.
     using Member = std::pair<std::string, Value>;
+    /// Iterators are pointers: the members stand one behind the other.
+    /// @{
     using value_type = Member;
     using iterator = Member*;
     using const_iterator = const Member*;
+    /// @}
 
     /// A member filter that refuses the names which an element's JSON object reserves for itself:
     /// "name", "UUID", "ACL" and "children". For a skill that reads its own object out of an
@@ -50,28 +54,37 @@ public:
         bool operator()(const utils::json::decoder::Name& name,
                         utils::json::decoder::Value& value) const;
     };
+    /// The filter, ready for use; it has no state.
     static const CorvaneElementFilter kCorvaneElementFilter;
 
     Object() noexcept;
+    /// Copies the nested values too.
     Object(const Object& other);
     /// Leaves `other` empty.
     Object(Object&& other) noexcept;
     /// Also safe when `other` is nested in this object.
     Object& operator=(const Object& other);
+    /// Leaves `other` empty, also when it is nested in this object.
     Object& operator=(Object&& other) noexcept;
     ~Object();
 
+    /// As in std::vector.
+    /// @{
     [[nodiscard]] bool empty() const noexcept;
     [[nodiscard]] std::size_t size() const noexcept;
     [[nodiscard]] iterator begin() noexcept;
     [[nodiscard]] iterator end() noexcept;
     [[nodiscard]] const_iterator begin() const noexcept;
     [[nodiscard]] const_iterator end() const noexcept;
+    /// @}
 
     /// The value of the first member of that name, or null. Searches from the front.
+    /// @{
     [[nodiscard]] Value* find(std::string_view name) noexcept;
     [[nodiscard]] const Value* find(std::string_view name) const noexcept;
+    /// @}
 
+    /// Makes room for that many members in all.
     void reserve(std::size_t size);
     /// Adds a member at the end, also if there is one of that name; returns its value as held.
     Value& append(std::string name, Value value);
@@ -79,6 +92,7 @@ public:
     bool erase(std::string_view name);
     /// Removes one member; returns the one behind it.
     iterator erase(const_iterator member);
+    /// Also gives the memory back.
     void clear() noexcept;
 
     /// Same names and equal values position by position: the order matters.
@@ -86,11 +100,14 @@ public:
 
     /// Replaces the members by those of a JSON object. Throws the decoder's exceptions, for a name
     /// that comes twice located at its second place, and then leaves the members alone.
+    /// @{
     void decode(utils::json::decoder::Value& source, DecodingOptions options = {});
     void decode(utils::json::decoder::Object& source, DecodingOptions options = {});
+    /// @}
 
     /// The same with a filter, which sees each member before it is decoded: true consumes the
     /// member. It is called as bool(const decoder::Name&, decoder::Value&).
+    /// @{
     template <class Filter>
         requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
                                        utils::json::decoder::Value&>
@@ -105,6 +122,7 @@ public:
                 DecodingOptions options = {}) {
         decodeInternal(source, MemberFilter(filter), options);
     }
+    /// @}
 
     /// Writes the value as an object.
     void encode(utils::json::encoder::Value& target) const;
@@ -114,6 +132,7 @@ public:
     /// Reads a whole JSON text; the error is a message for the user.
     [[nodiscard]] static tl::expected<Object, std::wstring>
     fromString(std::string_view text, DecodingOptions options = {});
+    /// The same with a filter, as for decode().
     template <class Filter>
         requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
                                        utils::json::decoder::Value&>
@@ -121,6 +140,7 @@ public:
     fromString(std::string_view text, const Filter& filter, DecodingOptions options = {}) {
         return fromStringInternal(text, MemberFilter(filter), options);
     }
+    /// The object as a JSON text (UTF-8).
     [[nodiscard]] std::string toString(utils::json::encoder::Document::Format format) const;
 
 private:

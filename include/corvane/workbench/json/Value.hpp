@@ -32,7 +32,9 @@ namespace corvane::workbench::json {
 /// values recursively: what the decoder accepts (512 levels) fits a stack of 1 MiB.
 class CORVANE_WORKBENCH_EXPORT Value {
 public:
+    /// The content of a value that is null.
     struct Null {
+        /// All are equal.
         friend constexpr bool operator==(const Null&, const Null&) noexcept { return true; }
     };
 
@@ -51,32 +53,46 @@ public:
 
     /// Null.
     Value() noexcept : null_(), kind_(Kind::Null) {}
+    /// Takes the content over.
+    /// @{
     Value(Null) noexcept : Value() {}
     Value(Object object) noexcept : object_(std::move(object)), kind_(Kind::Object) {}
     Value(Array array) noexcept : array_(std::move(array)), kind_(Kind::Array) {}
+    /// @}
+
     /// UTF-8.
+    /// @{
     Value(std::string text);
     Value(std::string_view text);
     Value(const char* text);
+    /// @}
+
     /// Exactly a bool: pointers and numbers do not become one.
     template <std::same_as<bool> T>
     Value(T boolean) noexcept : boolean_(boolean), kind_(Kind::Boolean) {}
     /// Signed types become a signed integer, unsigned ones an unsigned integer.
+    /// @{
     template <std::signed_integral T>
     Value(T number) noexcept : signedInteger_(number), kind_(Kind::SignedInteger) {}
     template <std::unsigned_integral T>
         requires(!std::same_as<T, bool>)
     Value(T number) noexcept : unsignedInteger_(number), kind_(Kind::UnsignedInteger) {}
+    /// @}
+
+    /// Stays a double, also when it is a whole number.
     Value(double number) noexcept : double_(number), kind_(Kind::Double) {}
 
+    /// Copies the nested values too.
     Value(const Value& other);
     /// Leaves `other` null.
     Value(Value&& other) noexcept : Value() { take(other); }
     /// Also safe when `other` is nested in this value.
     Value& operator=(const Value& other);
+    /// Leaves `other` null, also when it is nested in this value.
     Value& operator=(Value&& other) noexcept;
     ~Value() { clear(); }
 
+    /// Which alternative the content is.
     [[nodiscard]] Kind kind() const noexcept { return kind_; }
 
     /// T is one of the alternatives: Object, Array, std::string, std::int64_t, std::uint64_t,
@@ -86,6 +102,7 @@ public:
         return kind_ == kKindOf<T>;
     }
     /// The content if it is of that kind, else null.
+    /// @{
     template <class T>
     [[nodiscard]] T* getIf() noexcept {
         return is<T>() ? &content<T>(*this) : nullptr;
@@ -94,7 +111,10 @@ public:
     [[nodiscard]] const T* getIf() const noexcept {
         return is<T>() ? &content<T>(*this) : nullptr;
     }
+    /// @}
+
     /// The content; throws std::bad_variant_access if it is of another kind.
+    /// @{
     template <class T>
     [[nodiscard]] T& get() & {
         return checked<T>(*this);
@@ -107,8 +127,10 @@ public:
     [[nodiscard]] T&& get() && {
         return std::move(checked<T>(*this));
     }
+    /// @}
 
     /// Calls the visitor with the content and returns what it returns, one type for every kind.
+    /// @{
     template <class Visitor>
     decltype(auto) visit(Visitor&& visitor) {
         return visit(*this, std::forward<Visitor>(visitor));
@@ -117,6 +139,7 @@ public:
     decltype(auto) visit(Visitor&& visitor) const {
         return visit(*this, std::forward<Visitor>(visitor));
     }
+    /// @}
 
     /// Same kind and equal content: the signed 5, the unsigned 5 and 5.0 are three values. Doubles
     /// compare as usual, so NaN equals nothing and 0.0 equals -0.0.
@@ -134,6 +157,7 @@ public:
     /// Reads a whole JSON text; the error is a message for the user.
     [[nodiscard]] static tl::expected<Value, std::wstring> fromString(std::string_view text,
                                                                       DecodingOptions options = {});
+    /// The value as a JSON text (UTF-8). See encode() for what JSON cannot hold.
     [[nodiscard]] std::string toString(utils::json::encoder::Document::Format format) const;
 
 private:

@@ -31,47 +31,56 @@ public:
     /// Their names stand in reference keys and files: "key", not "primaryKey", and "UUID" in upper
     /// case.
     /// @{
-    static const Attribute kName;
-    static const Attribute kUuid;
-    static const Attribute kType;
-    static const Attribute kCategory;
-    static const Attribute kPrimaryKey;
-    static const Attribute kDeviceState;
-    static const Attribute kQuality;
-    static const Attribute kSourceTime;
-    static const Attribute kUpdateTime;
-    static const Attribute kChangeTime;
-    static const Attribute kWriteTime;
+    static const Attribute kName;        ///< "name"
+    static const Attribute kUuid;        ///< "UUID"
+    static const Attribute kType;        ///< "type"
+    static const Attribute kCategory;    ///< "category"
+    static const Attribute kPrimaryKey;  ///< "key"
+    static const Attribute kDeviceState; ///< "deviceState"
+    static const Attribute kQuality;     ///< "quality"
+    static const Attribute kSourceTime;  ///< "sourceTime"
+    static const Attribute kUpdateTime;  ///< "updateTime"
+    static const Attribute kChangeTime;  ///< "changeTime"
+    static const Attribute kWriteTime;   ///< "writeTime"
 
     /// @}
     /// @name Names of attributes that data points of devices commonly have
     /// @{
-    static const std::string kAddress;
-    static const std::string kChannel;
-    static const std::string kDataType;
-    static const std::string kLength;
-    static const std::string kOffset;
+    static const std::string kAddress;  ///< "address"
+    static const std::string kChannel;  ///< "channel"
+    static const std::string kDataType; ///< "dataType"
+    static const std::string kLength;   ///< "length"
+    static const std::string kOffset;   ///< "offset"
     /// @}
 
     /// `name` is UTF-8; it and `ioDirections` are also those of the change event.
     Attribute(std::string&& name, Access access, data::DataType dataType,
               utils::core::Flags<io::Direction> ioDirections) noexcept;
 
+    /// Copied and moved as a plain value.
+    /// @{
     Attribute(const Attribute& other);
     Attribute(Attribute&& other) noexcept;
     Attribute& operator=(const Attribute& other);
     Attribute& operator=(Attribute&& other) noexcept;
+    /// @}
+
     ~Attribute();
 
+    /// As given to the constructor or set since. The name is valid as long as the attribute.
+    /// @{
     [[nodiscard]] std::string_view name() const noexcept;
     [[nodiscard]] utils::core::Flags<io::Direction> ioDirections() const noexcept;
     [[nodiscard]] Access access() const noexcept;
     [[nodiscard]] const data::DataType& dataType() const noexcept;
+    /// @}
 
     /// The event that fires when the attribute's value changes: a view of this attribute, valid
     /// as long as the attribute is.
+    /// @{
     [[nodiscard]] const process::Event& changeEvent() const& noexcept;
     [[nodiscard]] process::Event&& changeEvent() && noexcept;
+    /// @}
 
     /// Returns whether the access has changed.
     bool setAccess(Access access) noexcept;
@@ -79,6 +88,7 @@ public:
     /// Returns whether the data type has changed.
     bool setDataType(const data::DataType& dataType) noexcept;
 
+    /// Compares field by field.
     friend bool operator==(const Attribute&, const Attribute&) = default;
 
 private:

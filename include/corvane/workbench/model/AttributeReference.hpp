@@ -17,8 +17,8 @@ class Value;
 
 namespace corvane::workbench::model {
 
-/// A live reference to an attribute of an element of the model, held by a skill in a property. It
-/// registers with the workbench and follows renames and moves; see BasicElementReference. Its
+/// A live reference to an attribute of an element of the model, held by a skill in a property,
+/// which propertyId() names. It registers with the workbench and follows renames and moves. Its
 /// ImportReference is the plain form of a reference within a configuration that is being imported.
 class CORVANE_WORKBENCH_EXPORT AttributeReference : public internal::BasicElementReference {
 public:
@@ -26,6 +26,9 @@ public:
 
     /// An empty reference.
     AttributeReference() noexcept;
+    /// Registers on its own with what it is to refer to; a move takes the registration over and
+    /// leaves the source empty.
+    /// @{
     explicit AttributeReference(const internal::ElementReferenceData& data);
     explicit AttributeReference(internal::ElementReferenceData&& data);
     AttributeReference(const AttributeReference& other);
@@ -34,6 +37,8 @@ public:
     AttributeReference& operator=(AttributeReference&& other) noexcept;
     AttributeReference& operator=(const internal::ElementReferenceData& data);
     AttributeReference& operator=(internal::ElementReferenceData&& data);
+    /// @}
+
     ~AttributeReference() override;
 
     /// Whether the reference is not empty; it need not resolve.
@@ -44,8 +49,11 @@ public:
     [[nodiscard]] std::string primaryKey() const;
     /// Writes the key as one JSON string.
     void save(utils::json::encoder::Value& value) const;
+    /// Adds the key as an element, or as a member of that name.
+    /// @{
     void saveTo(utils::json::encoder::Array& array) const;
     void saveTo(utils::json::encoder::Object& object, std::string_view name) const;
+    /// @}
 };
 
 /// A reference as plain data: never registered, freely copied, saved with its import prefix. It has
@@ -55,10 +63,14 @@ public:
     ImportReference();
     /// Copies the reference's data.
     explicit ImportReference(const AttributeReference& reference);
+    /// Copied and moved as plain data.
+    /// @{
     ImportReference(const ImportReference& other);
     ImportReference(ImportReference&& other) noexcept;
     ImportReference& operator=(const ImportReference& other);
     ImportReference& operator=(ImportReference&& other) noexcept;
+    /// @}
+
     ~ImportReference();
 
     /// A reference to an attribute of an element of the configuration that is being imported
@@ -70,8 +82,11 @@ public:
     explicit operator bool() const noexcept;
     /// Writes the key as one JSON string.
     void save(utils::json::encoder::Value& value) const;
+    /// Adds the key as an element, or as a member of that name.
+    /// @{
     void saveTo(utils::json::encoder::Array& array) const;
     void saveTo(utils::json::encoder::Object& object, std::string_view name) const;
+    /// @}
 
 private:
     explicit ImportReference(internal::ElementReferenceData&& data) noexcept;

@@ -25,6 +25,8 @@ class CORVANE_WORKBENCH_EXPORT ChildElementAccessor {
 public:
     class Iterator;
 
+    /// What a standard container declares; the elements can only be read.
+    /// @{
     using value_type = Element;
     using reference = const Element&;
     using const_reference = const Element&;
@@ -32,12 +34,16 @@ public:
     using difference_type = std::ptrdiff_t;
     using iterator = Iterator;
     using const_iterator = Iterator;
+    /// @}
 
     /// No children.
     ChildElementAccessor();
 
+    /// As read when the accessor was made.
+    /// @{
     [[nodiscard]] std::size_t size() const noexcept { return count_; }
     [[nodiscard]] bool empty() const noexcept { return count_ == 0; }
+    /// @}
 
     /// Throws std::out_of_range, with the index and the number of children in its text, when
     /// `index` is not below size().
@@ -47,10 +53,13 @@ public:
     [[nodiscard]] const Element& operator[](std::size_t index) const;
 
     /// Precondition: there are children.
+    /// @{
     [[nodiscard]] const Element& front() const;
     [[nodiscard]] const Element& back() const;
+    /// @}
 
-    // Iterators refer to this accessor, not to a copy of it.
+    /// Iterators refer to this accessor, not to a copy of it.
+    /// @{
     [[nodiscard]] Iterator begin() const noexcept;
     [[nodiscard]] Iterator end() const noexcept;
     [[nodiscard]] Iterator cbegin() const noexcept;
@@ -59,6 +68,7 @@ public:
     [[nodiscard]] std::reverse_iterator<Iterator> rend() const noexcept;
     [[nodiscard]] std::reverse_iterator<Iterator> crbegin() const noexcept;
     [[nodiscard]] std::reverse_iterator<Iterator> crend() const noexcept;
+    /// @}
 
 private:
     // Its conversion operator makes the accessors that have children.
@@ -83,19 +93,27 @@ private:
 /// from; iterators of different accessors must not be ordered or subtracted.
 class ChildElementAccessor::Iterator {
 public:
+    /// What a standard iterator declares; the elements can only be read.
+    /// @{
     using iterator_category = std::random_access_iterator_tag;
     using value_type = Element;
     using difference_type = std::ptrdiff_t;
     using pointer = const Element*;
     using reference = const Element&;
+    /// @}
 
     /// An iterator that can only be assigned to.
     Iterator() = default;
 
+    /// @pre the position is that of a child
+    /// @{
     [[nodiscard]] reference operator*() const { return (*accessor_)[index_]; }
     [[nodiscard]] pointer operator->() const { return std::addressof(**this); }
     [[nodiscard]] reference operator[](difference_type offset) const { return *(*this + offset); }
+    /// @}
 
+    /// Distances count children.
+    /// @{
     Iterator& operator++() noexcept { return *this += 1; }
     Iterator& operator--() noexcept { return *this -= 1; }
 
@@ -132,11 +150,15 @@ public:
                                                    const Iterator& right) noexcept {
         return static_cast<difference_type>(left.index_ - right.index_);
     }
+    /// @}
 
+    /// Iterators of different accessors are never equal and have no order.
+    /// @{
     friend bool operator==(const Iterator&, const Iterator&) noexcept = default;
     friend std::strong_ordering operator<=>(const Iterator& left, const Iterator& right) noexcept {
         return left.index_ <=> right.index_;
     }
+    /// @}
 
 private:
     friend class ChildElementAccessor;

@@ -50,8 +50,11 @@ class ElementReferenceData;
 class CORVANE_WORKBENCH_EXPORT Element {
 public:
     Element() = default;
+    /// The interface itself has no state to copy.
+    /// @{
     Element(const Element& other) = default;
     Element& operator=(const Element& other) = default;
+    /// @}
 
     /// @name Identity
     /// @{
@@ -62,6 +65,7 @@ public:
     /// The key by which references name this element: the names on the way down to it.
     [[nodiscard]] std::string primaryKey() const;
 
+    /// Stays the same through renames and moves.
     [[nodiscard]] utils::core::Uuid uuid() const;
 
     /// The type of the element as it is shown to the user.
@@ -71,6 +75,7 @@ public:
     /// @name Category
     /// @{
 
+    /// The category itself; checkCategory() tells whether the element passes for another one.
     [[nodiscard]] ElementCategory category() const;
 
     /// Whether the element's category is one of `categories`; always true for a custom element,
@@ -92,11 +97,13 @@ public:
     /// @name Place in the tree
     /// @{
 
+    /// Whether this is the root of the tree, which users do not see.
     [[nodiscard]] bool isInvisibleRoot() const;
 
     /// The nearest ancestor of the class, or null.
     [[nodiscard]] const Element* findAncestor(const skill::Element::Class& elementClass) const;
 
+    /// Whether `other` is above this element, at whatever distance; false for the element itself.
     [[nodiscard]] bool isDescendentOf(const Element& other) const;
 
     /// Null for the root.
@@ -112,6 +119,7 @@ public:
     /// @name All members, in the order of the element
     /// @{
 
+    /// The attributes that the element has now.
     [[nodiscard]] std::vector<Attribute> attributes() const;
 
     /// The events and then, with `options.includeAttributes`, the change event of each attribute;
@@ -119,6 +127,7 @@ public:
     [[nodiscard]] std::vector<process::Event>
     events(process::EventSearchOptions options = {}) const;
 
+    /// The tasks that the element has now.
     [[nodiscard]] std::vector<process::Task> tasks() const;
 
     /// @}
@@ -128,6 +137,7 @@ public:
     /// the walk. The member is valid during the call only.
     /// @{
 
+    /// Walks over what attributes() returns.
     template <class Visit>
         requires std::invocable<Visit&, const Attribute&>
     bool forEachAttribute(Visit&& visit) const {
@@ -137,6 +147,7 @@ public:
         return stopped;
     }
 
+    /// Walks over what events() returns.
     template <class Visit>
         requires std::invocable<Visit&, const process::Event&>
     bool forEachEvent(Visit&& visit, process::EventSearchOptions options = {}) const {
@@ -146,6 +157,7 @@ public:
         return stopped;
     }
 
+    /// Walks over what tasks() returns.
     template <class Visit>
         requires std::invocable<Visit&, const process::Task&>
     bool forEachTask(Visit&& visit) const {
@@ -161,6 +173,7 @@ public:
     /// element makes up what it does not have.
     /// @{
 
+    /// Among the attributes only.
     [[nodiscard]] tl::expected<Attribute, std::wstring> attribute(std::string_view name) const;
 
     /// With `options.includeAttributes`, the change event of an attribute is found when no event
@@ -168,6 +181,7 @@ public:
     [[nodiscard]] tl::expected<process::Event, std::wstring>
     event(std::string_view name, process::EventSearchOptions options = {}) const;
 
+    /// Among the tasks only.
     [[nodiscard]] tl::expected<process::Task, std::wstring> task(std::string_view name) const;
 
     /// @}
@@ -176,17 +190,23 @@ public:
     /// resolved.
     /// @{
 
+    /// Names the element itself.
     [[nodiscard]] ElementReference makeReference() const;
+    /// Names an attribute.
     [[nodiscard]] AttributeReference makeAttributeReference(std::string_view name) const;
+    /// Keeps the attribute's name only.
     [[nodiscard]] AttributeReference makeAttributeReference(const Attribute& attribute) const;
 
     /// The reference keeps the options.
     [[nodiscard]] process::EventReference
     makeEventReference(std::string_view name, process::EventSearchOptions options = {}) const;
+    /// Keeps the event's name, and the options.
     [[nodiscard]] process::EventReference
     makeEventReference(const process::Event& event, process::EventSearchOptions options = {}) const;
 
+    /// Names a task.
     [[nodiscard]] process::TaskReference makeTaskReference(std::string_view name) const;
+    /// Keeps the task's name only.
     [[nodiscard]] process::TaskReference makeTaskReference(const process::Task& task) const;
 
     /// @}
@@ -232,6 +252,8 @@ public:
     virtual ~Element() = 0;
 
 private:
+    /// Answers the public operation of that name.
+    /// @{
     [[nodiscard]] virtual utils::string::BasicStringView<char> nameImpl() const = 0;
     [[nodiscard]] virtual std::string primaryKeyImpl() const = 0;
     [[nodiscard]] virtual utils::core::Uuid uuidImpl() const = 0;
@@ -241,10 +263,12 @@ private:
     [[nodiscard]] virtual const Element*
     findAncestorImpl(const skill::Element::Class& elementClass) const = 0;
     [[nodiscard]] virtual bool isDescendentOfImpl(const Element& other) const = 0;
+    /// @}
 
-    // A walk calls `callback` once for each member, stops as soon as that returns true, and
-    // returns whether it was stopped. `forwardedFlag` comes from the options of the search; its
-    // meaning is up to the implementation.
+    /// A walk calls `callback` once for each member, stops as soon as that returns true, and
+    /// returns whether it was stopped. `forwardedFlag` comes from the options of the search; its
+    /// meaning is up to the implementation.
+    /// @{
     virtual bool forEachAttributeImpl(
         const utils::core::function_ref<bool(const Attribute&)>& callback) const = 0;
     virtual bool
@@ -252,10 +276,14 @@ private:
                      bool forwardedFlag) const = 0;
     virtual bool forEachTaskImpl(
         const utils::core::function_ref<bool(const process::Task&)>& callback) const = 0;
+    /// @}
 
+    /// Answers the public operation of that name.
+    /// @{
     [[nodiscard]] virtual ChildElementAccessor childElementsImpl() const = 0;
     [[nodiscard]] virtual const Element* childElementImpl(std::string_view name) const = 0;
     [[nodiscard]] virtual const Element* parentElementImpl() const = 0;
+    /// @}
 
     /// Null when the element was not made by a skill.
     [[nodiscard]] virtual skill::Element* skillElementImpl() const = 0;

@@ -18,29 +18,43 @@ class Value;
 
 namespace corvane::workbench::process {
 
-/// A live reference to an event of an element of the model, held by a skill in a property. It
-/// registers with the workbench and follows renames and moves; see BasicElementReference. Its
+/// A live reference to an event of an element of the model, held by a skill in a property, which
+/// propertyId() names. It registers with the workbench and follows renames and moves. Its
 /// ImportReference is the plain form of a reference within a configuration that is being imported.
 class CORVANE_WORKBENCH_EXPORT EventReference : public model::internal::BasicElementReference {
 public:
     class ImportReference;
 
     /// An empty reference. Without options none is set.
+    /// @{
     EventReference() noexcept;
     explicit EventReference(EventSearchOptions options) noexcept;
+    /// @}
+
+    /// Registers with what the data name.
     EventReference(const model::internal::ElementReferenceData& data, EventSearchOptions options);
     /// Copies the data, as the form above does.
     EventReference(model::internal::ElementReferenceData&& data, EventSearchOptions options);
+    /// Takes target and options; a copy registers on its own, a move leaves the source empty.
+    /// @{
     EventReference(const EventReference& other);
     EventReference(EventReference&& other) noexcept;
+    /// @}
+
     /// Takes the other's target but not its options.
+    /// @{
     EventReference(const EventReference& other, EventSearchOptions options);
     EventReference(EventReference&& other, EventSearchOptions options) noexcept;
+    /// @}
+
     /// No assignment touches the options: they say how this place looks for an event.
+    /// @{
     EventReference& operator=(const EventReference& other);
     EventReference& operator=(EventReference&& other) noexcept;
     EventReference& operator=(const model::internal::ElementReferenceData& data);
     EventReference& operator=(model::internal::ElementReferenceData&& data);
+    /// @}
+
     ~EventReference() override;
 
     /// Whether the reference is not empty; it need not resolve.
@@ -54,8 +68,11 @@ public:
     [[nodiscard]] std::string primaryKey() const;
     /// Writes the key as one JSON string.
     void save(utils::json::encoder::Value& value) const;
+    /// Adds the key as an element, or as a member of that name.
+    /// @{
     void saveTo(utils::json::encoder::Array& array) const;
     void saveTo(utils::json::encoder::Object& object, std::string_view name) const;
+    /// @}
 
 private:
     EventSearchOptions options_;
@@ -68,10 +85,14 @@ public:
     ImportReference();
     /// Copies the reference's data.
     explicit ImportReference(const EventReference& reference);
+    /// Copied and moved as plain data.
+    /// @{
     ImportReference(const ImportReference& other);
     ImportReference(ImportReference&& other) noexcept;
     ImportReference& operator=(const ImportReference& other);
     ImportReference& operator=(ImportReference&& other) noexcept;
+    /// @}
+
     ~ImportReference();
 
     /// A reference to an event of an element of the configuration that is being imported together
@@ -83,8 +104,11 @@ public:
     explicit operator bool() const noexcept;
     /// Writes the key as one JSON string.
     void save(utils::json::encoder::Value& value) const;
+    /// Adds the key as an element, or as a member of that name.
+    /// @{
     void saveTo(utils::json::encoder::Array& array) const;
     void saveTo(utils::json::encoder::Object& object, std::string_view name) const;
+    /// @}
 
 private:
     explicit ImportReference(model::internal::ElementReferenceData&& data) noexcept;

@@ -10,6 +10,7 @@ struct EventSearchOptions {
     /// Passed unchanged to the element's own walk over its events, which alone knows its meaning.
     bool forwardedFlag = false;
 
+    /// Compares field by field.
     friend constexpr bool operator==(const EventSearchOptions&,
                                      const EventSearchOptions&) noexcept = default;
 };

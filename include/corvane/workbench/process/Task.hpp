@@ -13,19 +13,25 @@ namespace corvane::workbench::process {
 /// skill runs.
 class CORVANE_WORKBENCH_EXPORT Task {
 public:
-    static const Task kReconnect;
+    static const Task kReconnect; ///< "reconnect"
 
     /// `name` is UTF-8 and is the name by which reference keys name the task.
     explicit Task(std::string&& name) noexcept;
 
+    /// Copied and moved as a plain value.
+    /// @{
     Task(const Task& other);
     Task(Task&& other) noexcept;
     Task& operator=(const Task& other);
     Task& operator=(Task&& other) noexcept;
+    /// @}
+
     ~Task();
 
+    /// Valid as long as the task.
     [[nodiscard]] std::string_view name() const noexcept;
 
+    /// Compares the names.
     friend bool operator==(const Task&, const Task&) = default;
 
 private:

@@ -14,8 +14,12 @@ class Element;
 class CORVANE_WORKBENCH_EXPORT AbstractElementFactory {
 public:
     AbstractElementFactory();
+    /// The interface itself has no state to copy.
+    /// @{
     AbstractElementFactory(const AbstractElementFactory& other);
     AbstractElementFactory& operator=(const AbstractElementFactory& other);
+    /// @}
+
     virtual ~AbstractElementFactory() = 0;
 
     /// Makes an element with neither a supervisor nor settings; never null.

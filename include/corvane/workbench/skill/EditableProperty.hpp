@@ -35,7 +35,9 @@ struct EditableProperty {
 
     /// Stable name (UTF-8), as in configuration files and on command lines.
     std::string name{};
+    /// The name as shown to the user.
     std::wstring displayName{};
+    /// Decides which of the callables below have a use.
     Editor editor = Editor::Text;
     /// State, visibility and change notifications of the property.
     bindings::PropertyHandle property{};
@@ -54,8 +56,8 @@ struct EditableProperty {
     std::function<tl::expected<void, std::wstring>(std::size_t)> insertSubElement{};
     /// Removes the row at the given index and publishes the property; or says why not.
     std::function<tl::expected<void, std::wstring>(std::size_t)> removeSubElement{};
-    /// Moves the row at the first index to the second one, where it stands afterwards, and publishes
-    /// the property; or says why not. Empty: the rows keep their order.
+    /// Moves the row at the first index to the second one, where it stands afterwards, and
+    /// publishes the property; or says why not. Empty: the rows keep their order.
     std::function<tl::expected<void, std::wstring>(std::size_t, std::size_t)> moveSubElement{};
     /// A sentence that explains the property to the user; may be empty.
     std::wstring toolTip{};

@@ -67,6 +67,7 @@ public:
     [[nodiscard]] const Class& elementClass() const;
     /// The element's name (UTF-8), valid until the element is renamed.
     [[nodiscard]] utils::string::BasicStringView<char> name() const;
+    /// Stays the same through renames and moves.
     [[nodiscard]] utils::core::Uuid uuid() const;
     /// The element's key from the root of the configuration.
     [[nodiscard]] std::string primaryKey() const;
@@ -76,6 +77,7 @@ protected:
     [[nodiscard]] const model::Element& element() const;
     /// The element's parent. Precondition: the element is not the root.
     [[nodiscard]] const model::Element& parentElement() const;
+    /// The element's children as they are now.
     [[nodiscard]] model::ChildElementAccessor childElements() const;
     /// Asks the workbench to enumerate the element's attributes, events and tasks anew; call it
     /// when what the three walks below deliver has changed.
@@ -127,8 +129,12 @@ private:
 class CORVANE_WORKBENCH_EXPORT Element::Class {
 public:
     Class();
+    /// The interface itself has no state to copy.
+    /// @{
     Class(const Class& other);
     Class& operator=(const Class& other);
+    /// @}
+
     virtual ~Class() = 0;
 
     /// The class's name in configuration files (UTF-8), unique among all skills.
@@ -139,6 +145,7 @@ public:
     [[nodiscard]] virtual std::wstring displayName() const = 0;
     /// What elements of this class are for, in a sentence for the user.
     [[nodiscard]] virtual std::wstring description() const = 0;
+    /// The category of every element of the class.
     [[nodiscard]] virtual model::ElementCategory category() const = 0;
     /// Creates elements of this class; lives as long as the class.
     [[nodiscard]] virtual const AbstractElementFactory& factory() const = 0;
