@@ -17,10 +17,14 @@ class PropertyController;
 class CORVANE_WORKBENCH_EXPORT CrossReferenceController {
 public:
     CrossReferenceController() noexcept = default;
+    /// A copy has no link, and an assignment leaves the target's own.
+    /// @{
     CrossReferenceController(const CrossReferenceController&) noexcept {}
     CrossReferenceController(CrossReferenceController&&) noexcept {}
     CrossReferenceController& operator=(const CrossReferenceController&) noexcept { return *this; }
     CrossReferenceController& operator=(CrossReferenceController&&) noexcept { return *this; }
+    /// @}
+
     /// Tells the controller nothing.
     virtual ~CrossReferenceController() = 0;
 

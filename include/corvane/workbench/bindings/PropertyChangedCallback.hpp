@@ -19,6 +19,7 @@ namespace corvane::workbench::bindings {
 class CORVANE_WORKBENCH_EXPORT PropertyChangedCallback {
 public:
     PropertyChangedCallback() noexcept = default;
+    /// Holds nothing, as one made by default.
     PropertyChangedCallback(std::nullptr_t) noexcept {}
 
     /// From any copyable callable of either shape. A callable of both shapes is told the action and

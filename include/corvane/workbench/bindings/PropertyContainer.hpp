@@ -67,6 +67,7 @@ public:
         ErrorCountSubscription() noexcept = default;
         /// Makes an empty handle: copying the owner of a subscription must not end in two owners.
         ErrorCountSubscription(const ErrorCountSubscription&) noexcept {}
+        /// Takes the subscription over; the other is then empty.
         ErrorCountSubscription(ErrorCountSubscription&& other) noexcept
             : container_(std::exchange(other.container_, nullptr)),
               id_(std::exchange(other.id_, 0)) {}
@@ -78,6 +79,7 @@ public:
 
         /// Ends the subscription. Safe in any callback, its own included.
         void reset() noexcept;
+        /// Whether there is a subscription.
         [[nodiscard]] explicit operator bool() const noexcept { return container_ != nullptr; }
 
     private:
@@ -98,10 +100,14 @@ public:
     virtual ~PropertyContainer() = 0;
 
     PropertyContainer();
+    /// A copy has neither place nor counts nor subscribers, and an assignment leaves the target's
+    /// own.
+    /// @{
     PropertyContainer(const PropertyContainer&) : PropertyContainer() {}
     PropertyContainer(PropertyContainer&&) : PropertyContainer() {}
     PropertyContainer& operator=(const PropertyContainer&) noexcept { return *this; }
     PropertyContainer& operator=(PropertyContainer&&) noexcept { return *this; }
+    /// @}
 
     /// The container whose property holds this one; null for a root.
     [[nodiscard]] PropertyContainer* enclosingPropertyContainer() const noexcept {
@@ -153,7 +159,9 @@ protected:
     /// them changed. Recounts this container and every container that lost one to it.
     void subPropertyContainerListChanged(SubPropertyContainerListChangedOptions options);
 
-    // The three below take counts over as they stand and do nothing when both containers are one.
+    /// @name Lists taken over
+    /// Counts are taken over as they stand. Nothing happens when both containers are one.
+    /// @{
 
     /// To be called when the sub-containers were copied from those of another container.
     void subPropertyContainerListCopied(const PropertyContainer& other,
@@ -164,6 +172,8 @@ protected:
     /// To be called when the sub-containers were swapped with those of another container.
     void subPropertyContainerListSwapped(PropertyContainer& other,
                                          SubPropertyContainerListChangedOptions options);
+
+    /// @}
 
 private:
     /// Called when this container's error count changed, before its subscribers.

@@ -58,8 +58,11 @@ public:
 
     /// What a property holds besides a plain value. Neither object is owned.
     struct ClassifiedProperty {
+        /// Null when there is none.
+        /// @{
         PropertyContainer* subPropertyContainer = nullptr;
         CrossReferenceController* crossReferenceController = nullptr;
+        /// @}
     };
 
     /// How a property behaves. The lists borrow; see PropertyIdRange for how long.
@@ -75,19 +78,20 @@ public:
 
     /// A property to update when the value of another one is published.
     struct Dependency {
-        PropertyId property{};
-        bool updatesValue = false;
-        bool updatesState = false;
-        bool updatesVisibility = false;
+        PropertyId property{};          ///< the one to update
+        bool updatesValue = false;      ///< publish its value
+        bool updatesState = false;      ///< compute its state anew
+        bool updatesVisibility = false; ///< compute its visibility, then its state anew
     };
 
     /// What a publication changed. Only the last two ask the controller for more.
     struct PropertyChanges {
-        bool stateChanged = false;
-        bool visibilityChanged = false;
-        bool subPropertyVisibilityChanged = false;
-        bool errorCountMayHaveChanged = false;
+        bool stateChanged = false;                 ///< of the property itself
+        bool visibilityChanged = false;            ///< of the property itself
+        bool subPropertyVisibilityChanged = false; ///< a sub-container was shown or hidden
+        bool errorCountMayHaveChanged = false;     ///< the controller has to count anew
 
+        /// Adds the other's changes.
         PropertyChanges& operator|=(const PropertyChanges& other) noexcept {
             stateChanged |= other.stateChanged;
             visibilityChanged |= other.visibilityChanged;
@@ -99,9 +103,9 @@ public:
 
     /// What a subscriber wants to hear; each may be empty.
     struct SubscriptionCallbacks {
-        PropertyChangedCallback value{};
-        std::function<void()> state{};
-        std::function<void()> visibility{};
+        PropertyChangedCallback value{};    ///< the value was published
+        std::function<void()> state{};      ///< the state has changed
+        std::function<void()> visibility{}; ///< the visibility has changed
     };
 
     /// Owns one subscription to a property, until it is reset, destroyed or moved from. Must not
@@ -117,6 +121,7 @@ public:
         /// Makes an empty subscription: copying the owner of a subscription (a view, a row of a
         /// table) must not end in two owners.
         Subscription(const Subscription&) noexcept {}
+        /// Takes the subscription over; the other is then empty.
         Subscription(Subscription&& other) noexcept
             : controller_(std::exchange(other.controller_, nullptr)),
               property_(std::exchange(other.property_, PropertyId())),
@@ -129,6 +134,7 @@ public:
 
         /// Ends the subscription. Safe in any callback, its own included.
         void reset() noexcept;
+        /// Whether there is a subscription.
         [[nodiscard]] explicit operator bool() const noexcept { return controller_ != nullptr; }
 
     private:
@@ -149,10 +155,13 @@ public:
     ~PropertyController() override = 0;
 
     PropertyController();
+    /// A copy has neither properties nor subscribers, and an assignment leaves the target's own.
+    /// @{
     PropertyController(const PropertyController&);
     PropertyController(PropertyController&&);
     PropertyController& operator=(const PropertyController&) noexcept { return *this; }
     PropertyController& operator=(PropertyController&&) noexcept { return *this; }
+    /// @}
 
     /// The property together with this controller. Does not configure; the property need not exist.
     [[nodiscard]] PropertyHandle propertyHandle(const PropertyId& property);

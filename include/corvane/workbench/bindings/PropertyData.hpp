@@ -30,16 +30,23 @@ public:
     /// Computes visibility and state after the configuration and tells subscribers what changed.
     void postConfigure();
 
+    /// Each computes anew what it publishes and tells the subscribers; publish() publishes value
+    /// and state.
+    /// @{
     PropertyChanges publish(Action action, std::size_t index);
     PropertyChanges publishValue(Action action, std::size_t index);
     PropertyChanges publishState();
     PropertyChanges publishVisibility();
     PropertyChanges publishDependency(const Dependency& dependency);
+    /// @}
 
+    /// The same, adding to `changes`.
+    /// @{
     void publish(Action action, std::size_t index, PropertyChanges& changes);
     void publishState(PropertyChanges& changes);
     void publishVisibility(PropertyChanges& changes);
     void publishDependency(const Dependency& dependency, PropertyChanges& changes);
+    /// @}
 
     /// Stores the callbacks under a new id, which is returned. Ids grow in the order of
     /// subscription and are unique in the process.
@@ -47,8 +54,14 @@ public:
     /// An unknown id is ignored.
     void unsubscribe(std::size_t id) noexcept;
 
+    /// As last computed.
+    /// @{
     [[nodiscard]] const PropertyState& state() const noexcept { return cachedState_; }
     [[nodiscard]] bool visible() const noexcept { return cachedVisibility_; }
+    /// @}
+
+    /// What was configured, for the controller to go on with.
+    /// @{
     [[nodiscard]] std::span<const Dependency> dependentProperties() const noexcept {
         return dependentProperties_;
     }
@@ -61,6 +74,8 @@ public:
     [[nodiscard]] CrossReferenceController* crossReferenceController() const noexcept {
         return crossReferenceController_;
     }
+    /// @}
+
     /// Whether nothing is configured, nothing depends on the property and nobody is subscribed.
     [[nodiscard]] bool empty() const noexcept;
 

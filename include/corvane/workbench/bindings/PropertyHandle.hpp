@@ -30,6 +30,7 @@ public:
 
     /// @pre there is a controller
     [[nodiscard]] PropertyController& controller() const noexcept { return *controller_; }
+    /// Names the property; empty in a handle made by default.
     [[nodiscard]] const PropertyId& property() const noexcept { return property_; }
     /// Whether there are both a controller and an identifier that is not empty.
     [[nodiscard]] explicit operator bool() const noexcept {

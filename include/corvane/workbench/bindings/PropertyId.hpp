@@ -38,6 +38,7 @@ public:
     /// The empty identifier, which names nothing.
     constexpr PropertyId() noexcept = default;
 
+    /// Compares both words.
     [[nodiscard]] friend constexpr bool operator==(const PropertyId&,
                                                    const PropertyId&) noexcept = default;
     /// Orders by the first word, then by the second, both unsigned.

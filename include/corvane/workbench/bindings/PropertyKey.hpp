@@ -18,6 +18,7 @@ public:
     PropertyKey& operator=(const PropertyKey&) = delete;
     ~PropertyKey() = default;
 
+    /// The property's identifier, the same for the life of the key.
     [[nodiscard]] PropertyId id() const noexcept {
         return PropertyId(PropertyId::kInternalConstructor, &place_);
     }

@@ -51,6 +51,7 @@ class Offset;
 template <>
 class Offset<int> {
 public:
+    /// Any offset; a negative one steps down.
     constexpr explicit Offset(int offset) noexcept : offset_(offset) {}
 
     /// The value for a new entry at `index`, wrapping around on overflow.
@@ -82,6 +83,7 @@ private:
 template <>
 class Offset<double> {
 public:
+    /// Any offset; a negative one steps down.
     constexpr explicit Offset(double offset) noexcept : offset_(offset) {}
 
     /// The value for a new entry at `index`.
