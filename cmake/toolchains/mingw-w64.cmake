@@ -25,7 +25,9 @@ foreach(package IN ITEMS tl-expected:tl::expected CLI11:CLI11::CLI11)
 endif()\n")
 endforeach()
 
-set(CMAKE_FIND_ROOT_PATH "${links}" /usr/x86_64-w64-mingw32)
+# Packages for Windows lie where the project says, not in the system's folders.
+string(REPLACE ":" ";" prefixes "$ENV{CMAKE_PREFIX_PATH}")
+set(CMAKE_FIND_ROOT_PATH "${links}" /usr/x86_64-w64-mingw32 ${CMAKE_PREFIX_PATH} ${prefixes})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
