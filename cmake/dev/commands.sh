@@ -25,7 +25,7 @@ configure() {
     }
 }
 
-run_skillbench_build() { build tools --target skillbench pump-station first-skill >&2; }
+run_skillbench_build() { build tools --target skillbench pump-station first-skill by-hand >&2; }
 
 run_demo() {
     build tools --target pump-station-demo pump-station >&2

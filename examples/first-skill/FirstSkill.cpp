@@ -1,29 +1,24 @@
-#include "MixerClass.hpp"
-#include <corvane/workbench/skill/Skill.hpp>
+#include "Mixer.hpp"
+#include "names.hpp"
+#include <corvane/workbench/kit/ElementClass.hpp>
+#include <corvane/workbench/kit/Skill.hpp>
 
 namespace first_skill {
 
+using namespace kit::literals;
+
 namespace {
 
-class FirstSkill final : public workbench::skill::Skill {};
+const kit::ElementClass<Mixer> kMixer({
+    .id = "FirstSkill.Mixer",
+    .uuid = "5f0c2a8e-93b7-4d8e-a1c4-2f6d0b9e7713"_uuid,
+    .displayName = "Mixer",
+    .description = "Works through the steps of a recipe.",
+    .category = model::ElementCategory::Device,
+});
 
-class FirstSkillClass final : public workbench::skill::Skill::Class {
-public:
-    std::string_view id() const override { return "FirstSkill"; }
-    std::wstring displayName() const override { return L"First skill"; }
-    std::string_view version() const override { return "1.0.0"; }
-    void registerElementClasses(Registry& registry) const override {
-        registry.registerElementClass(mixerClass_);
-    }
-    std::unique_ptr<workbench::skill::Skill> createSkill() const override {
-        return std::make_unique<FirstSkill>();
-    }
-
-private:
-    MixerClass mixerClass_;
-};
-
-const FirstSkillClass kFirstSkill;
+const kit::Skill kFirstSkill({.id = "FirstSkill", .displayName = "First skill", .version = "1.0.0"},
+                             {kMixer});
 
 } // namespace
 

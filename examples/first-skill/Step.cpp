@@ -1,63 +1,13 @@
 #include "Step.hpp"
 
-#include "editors.hpp"
-#include <corvane/utils/json/decoder/Object.hpp>
-#include <corvane/utils/json/decoder/Value.hpp>
-#include <corvane/utils/json/encoder/Array.hpp>
-#include <corvane/utils/json/encoder/Object.hpp>
-#include <corvane/utils/json/encoder/Value.hpp>
-#include <corvane/utils/numeric/format.hpp>
-#include <corvane/utils/string/transcode.hpp>
-#include <corvane/workbench/config/throwUnknownParameterError.hpp>
-
 namespace first_skill {
 
-namespace {
-
-const workbench::bindings::PropertyKey kIngredient;
-const workbench::bindings::PropertyKey kSpeed;
-
-} // namespace
-
-const workbench::bindings::PropertyKey Step::kList;
-
-void Step::configureProperties(PropertyConfigurationContext& context) {
-    context.configure(
-        kIngredient,
-        {.state = [this] { return check(!ingredient.empty(), "Name the ingredient."); },
-         .raisedProperties = {kList}});
-    context.configure(
-        kSpeed, {.state = [this] { return check(speed > 0, "The speed must be greater than 0."); },
-                 .raisedProperties = {kList}});
-    context.configure(displayNamePropertyId(), {.valueDependencies = {kIngredient}});
-}
-
-std::wstring Step::displayName() const {
-    return utils::string::toWide(ingredient);
-}
-
-void Step::load(utils::json::decoder::Value& row) {
-    for (const auto& [name, value] : row.asObject()) {
-        if (name == "ingredient") {
-            ingredient = value.asString().view();
-        } else if (name == "speed") {
-            speed = value.asInt64();
-        } else {
-            workbench::config::throwUnknownParameterError(name);
-        }
-    }
-}
-
-void Step::saveTo(utils::json::encoder::Array& rows) const {
-    auto row = rows.addElement().writeObject();
-    row.addMember("ingredient").writeString(ingredient);
-    row.addMember("speed").writeNumber(utils::numeric::format(speed).view());
-}
-
-void Step::forEachEditableProperty(
-    utils::core::function_ref<void(const workbench::skill::EditableProperty&)> callback) {
-    callback(textEditor("ingredient", "Ingredient", propertyHandle(kIngredient), ingredient));
-    callback(numberEditor("speed", "Speed", propertyHandle(kSpeed), speed));
+void Step::describe(kit::Form& form) {
+    form.text("ingredient", "Ingredient", ingredient_).required("Name the ingredient.");
+    form.integer("speed", "Speed", speed)
+        .initially(100)
+        .rule([](std::int64_t value) { return value > 0; }, "The speed must be greater than 0.");
+    form.reference("waitsFor", "Waits for", waitsFor_).optional().savedWhenNotInitial();
 }
 
 } // namespace first_skill

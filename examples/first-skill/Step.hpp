@@ -1,40 +1,26 @@
 #pragma once
 
 #include "names.hpp"
-#include <corvane/workbench/bindings/PropertyKey.hpp>
-#include <corvane/workbench/skill/SubElement.hpp>
+#include <corvane/workbench/kit/Form.hpp>
+#include <corvane/workbench/kit/Row.hpp>
+#include <corvane/workbench/model/ElementReference.hpp>
 
 #include <cstdint>
 #include <string>
 
-namespace corvane::utils::json::decoder {
-class Value;
-}
-namespace corvane::utils::json::encoder {
-class Array;
-}
-
 namespace first_skill {
 
-/// A step of a mixer's recipe: a row of its list.
-class Step final : public workbench::skill::SubElement {
+/// A step of a mixer's recipe.
+class Step final : public kit::Row {
 public:
-    /// The mixer's property that holds the steps.
-    static const workbench::bindings::PropertyKey kList;
-
-    std::string ingredient;
-    std::int64_t speed = 100;
-
-    void load(utils::json::decoder::Value& row);
-    void saveTo(utils::json::encoder::Array& rows) const;
-
-    std::wstring displayName() const override;
-    void forEachEditableProperty(
-        utils::core::function_ref<void(const workbench::skill::EditableProperty&)> callback)
-        override;
+    std::int64_t speed = 0;
 
 private:
-    void configureProperties(PropertyConfigurationContext& context) override;
+    void describe(kit::Form& form) override;
+
+    std::string ingredient_;
+    /// The mixer that must have finished before the step begins; may be empty.
+    model::ElementReference waitsFor_;
 };
 
 } // namespace first_skill

@@ -1,13 +1,13 @@
 #pragma once
 
-// Short names for the namespaces of the library that this skill uses.
+// What the files of this skill call the library.
 
-namespace corvane::workbench {}
-namespace corvane::utils {}
+namespace corvane::workbench::kit {}
+namespace corvane::workbench::model {}
 
 namespace first_skill {
 
-namespace workbench = corvane::workbench;
-namespace utils = corvane::utils;
+namespace kit = corvane::workbench::kit;
+namespace model = corvane::workbench::model;
 
 } // namespace first_skill

@@ -10,7 +10,6 @@
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/host/elementName.hpp>
 #include <corvane/workbench/json/DecodingOptions.hpp>
-#include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
 
 #include <memory>
@@ -20,7 +19,7 @@
 
 namespace corvane::workbench::host {
 
-namespace decoder = corvane::utils::json::decoder;
+namespace decoder = utils::json::decoder;
 
 namespace {
 
@@ -205,9 +204,11 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
     }
     auto object = value.asObject();
 
-    auto node = std::make_unique<ElementNode>(
-        *elementClass, elementClass->factory().createElement(), std::string(), utils::core::Uuid());
-    node->parent_ = &parent;
+    auto made = ElementTree::makeEmptyNode(parent, *elementClass);
+    if (!made) {
+        throw Fault(location, made.error().text);
+    }
+    std::unique_ptr<ElementNode> node = std::move(*made);
     node->line_ = location.line();
     node->column_ = location.column();
     // UUIDs of a part that is left out may be used by another one.
@@ -220,7 +221,7 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
             }
         }
     } claims{tree_, node.get()};
-    LoadContext::Frame frame(context_, *node);
+    LoadContext::Frame frame(context_, *node, location);
 
     ElementMembers members(*this, *node);
     object.addFilter(members);
@@ -238,7 +239,7 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
     if (!members.hasUuid()) {
         tree_.claimNewUuid(*node);
     }
-    frame.keep(value, location);
+    frame.keep();
     claims.top = nullptr;
     tree_.insert(parent, std::move(node));
     if (!progress_.advance()) {

@@ -20,7 +20,7 @@ class ElementTree;
 class LoadContext;
 
 /// Builds the elements of a configuration in one pass over its JSON text. The workbench's own
-/// members are taken out by a filter, so that the skill's half sees only what is its own, and
+/// members are taken out by a filter, so that the skill element sees only what is its own, and
 /// children are built on the way.
 class ConfigurationReader {
 public:

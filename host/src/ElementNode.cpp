@@ -32,7 +32,7 @@ ElementNode::~ElementNode() {
     if (const auto proxy = existingProxy(); proxy && proxy->node() == this) {
         proxy->retire({});
     }
-    // Children first: their skill's halves may still look at their parent's.
+    // Children first: their skill elements may still look at their parent's.
     childrenByName_.clear();
     children_.clear();
 }

@@ -19,7 +19,7 @@ void ElementProperties::forEachSubPropertyContainer(
     }
 }
 
-// An element's own properties are those of the skill's half.
+// An element's own properties are those of the skill element.
 void ElementProperties::forEachLocalCrossReference(
     const utils::core::function_ref<void(bindings::CrossReferenceController&)>&
     /*callback*/,
@@ -29,7 +29,7 @@ std::uint64_t ElementProperties::localPropertyErrorCount() const {
     return 0;
 }
 
-// There is no property here that the skill's half could mean.
+// There is no property here that the skill element could mean.
 void ElementProperties::propertyNotificationRaised(const bindings::PropertyId& /*property*/) {}
 
 } // namespace corvane::workbench::host

@@ -1,9 +1,13 @@
 #include "ElementTree.hpp"
 
 #include "ReferenceProxy.hpp"
+#include "text.hpp"
+#include "treeRules.hpp"
 #include <corvane/workbench/model/internal/keys.hpp>
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
+
+#include <utility>
 
 namespace corvane::workbench::host {
 
@@ -44,12 +48,28 @@ ElementNode* ElementTree::find(const utils::core::Uuid& uuid) const {
     return found == byUuid_.end() ? nullptr : found->second;
 }
 
-std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
-                                                   const skill::Element::Class& elementClass,
-                                                   std::string name) {
-    auto node = std::make_unique<ElementNode>(elementClass, elementClass.factory().createElement(),
-                                              std::move(name), utils::core::Uuid());
+Result<std::unique_ptr<ElementNode>>
+ElementTree::makeEmptyNode(ElementNode& parent, const skill::Element::Class& elementClass) {
+    std::unique_ptr<skill::Element> skillElement = elementClass.factory().createElement();
+    if (!skillElement) {
+        return refuse("the factory of the element class " + inQuotes(elementClass.id()) +
+                      " makes no element");
+    }
+    auto node = std::make_unique<ElementNode>(elementClass, std::move(skillElement), std::string(),
+                                              utils::core::Uuid());
     node->parent_ = &parent;
+    return node;
+}
+
+Result<std::unique_ptr<ElementNode>>
+ElementTree::makeNode(ElementNode& parent, const skill::Element::Class& elementClass,
+                      std::string name) {
+    auto made = makeEmptyNode(parent, elementClass);
+    if (!made) {
+        return made;
+    }
+    const std::unique_ptr<ElementNode>& node = *made;
+    node->name_ = std::move(name);
     claimNewUuid(*node);
     try {
         skill::internal::ElementAccess::makeDefault(*node->skillElement_);
@@ -58,7 +78,7 @@ std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
         releaseUuids(*node);
         throw;
     }
-    return node;
+    return made;
 }
 
 bool ElementTree::claimUuid(ElementNode& node, const utils::core::Uuid& uuid) {

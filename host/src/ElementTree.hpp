@@ -2,6 +2,7 @@
 
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
+#include <corvane/workbench/host/Problem.hpp>
 
 #include <functional>
 #include <memory>
@@ -42,9 +43,12 @@ public:
     [[nodiscard]] ElementNode* find(std::string_view key) const;
     [[nodiscard]] ElementNode* find(const utils::core::Uuid& uuid) const;
 
-    /// A node for a new element below the parent, not inserted yet: with the class's initial
-    /// settings and a UUID. Throws what the skill throws.
-    [[nodiscard]] std::unique_ptr<ElementNode>
+    /// A node below the parent but not inserted yet, with what the class's factory makes, without
+    /// name and UUID. Throws what the skill throws; a factory that makes nothing is a problem.
+    [[nodiscard]] static Result<std::unique_ptr<ElementNode>>
+    makeEmptyNode(ElementNode& parent, const skill::Element::Class& elementClass);
+    /// The same for a new element, with the class's initial settings, a name and a UUID.
+    [[nodiscard]] Result<std::unique_ptr<ElementNode>>
     makeNode(ElementNode& parent, const skill::Element::Class& elementClass, std::string name);
 
     /// Gives a node, in the tree or about to be, its UUID. False when another node has it.
@@ -65,7 +69,7 @@ public:
     void clear();
 
     /// Counts the errors of a node and everything below it, which are linked to each other by it,
-    /// and leaves the node itself without an enclosing container. A node whose skill's half fails
+    /// and leaves the node itself without an enclosing container. A node whose skill element fails
     /// to describe its properties is handed to `failed` with the exception that is being handled;
     /// `done` is called after each node.
     static void linkProperties(ElementNode& top, const std::function<void(ElementNode&)>& failed,
@@ -91,7 +95,7 @@ public:
         membersPublished_ = std::move(callback);
     }
 
-    // Doors to the nodes, for those who edit the tree.
+    // What is private to the nodes, for those who edit the tree.
 
     [[nodiscard]] static std::shared_ptr<ReferenceProxy> proxy(const ElementNode& node) {
         return node.proxy();

@@ -5,18 +5,15 @@
 #include "ReferenceProxy.hpp"
 #include "findCircles.hpp"
 #include "referenceData.hpp"
-#include "reservedMembers.hpp"
 #include "resolutionMessage.hpp"
 #include "text.hpp"
-#include <corvane/utils/json/decoder/Array.hpp>
-#include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
 #include <algorithm>
-#include <string_view>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
@@ -24,36 +21,33 @@ namespace corvane::workbench::host {
 
 namespace {
 
-namespace decoder = corvane::utils::json::decoder;
+namespace decoder = utils::json::decoder;
 
-using Locations = std::unordered_map<std::string_view, std::vector<decoder::Location>>;
-
-/// Notes the places of those strings in a value that the table asks for.
-void locateStrings(const decoder::Value& value, Locations& wanted) {
-    if (value.isString()) {
-        if (const auto found = wanted.find(value.asString().view()); found != wanted.end()) {
-            found->second.push_back(value.location());
-        }
-    } else if (value.isArray()) {
-        auto array = value.asArray();
-        for (const decoder::Value& element : array) {
-            locateStrings(element, wanted);
-        }
-    } else if (value.isObject()) {
-        auto object = value.asObject();
-        for (const auto& member : object) {
-            if (const auto found = wanted.find(member.name.text()); found != wanted.end()) {
-                found->second.push_back(member.name.location());
-            }
-            locateStrings(member.value, wanted);
-        }
+/// The problem of a reference that leads nowhere; nothing when it is empty, resolves, or is to stay
+/// an import reference.
+std::optional<std::string> problemText(const model::internal::BasicElementReference& reference,
+                                       ImportKeys importKeys) {
+    const model::internal::ElementReferenceData& data = reference.data();
+    if (data.empty()) {
+        return std::nullopt;
     }
+    if (data.isImportReference()) {
+        if (importKeys == ImportKeys::Keep) {
+            return std::nullopt;
+        }
+        return "the key " + inQuotes(data.primaryKey()) +
+               " cannot be resolved: it begins with “.import:”";
+    }
+    const auto message = resolutionMessage(reference);
+    return message ? std::optional(utils::string::toUtf8(*message)) : std::nullopt;
 }
 
 } // namespace
 
-LoadContext::Frame::Frame(LoadContext& context, ElementNode& owner)
-    : context_(context), owner_(owner), outer_(context.frame_), first_(context.requests_.size()) {
+LoadContext::Frame::Frame(LoadContext& context, ElementNode& owner,
+                          const decoder::Location& location)
+    : context_(context), owner_(owner), location_(location), outer_(context.frame_),
+      first_(context.requests_.size()) {
     context.frame_ = this;
 }
 
@@ -65,36 +59,19 @@ LoadContext::Frame::~Frame() {
     }
 }
 
-void LoadContext::Frame::keep(const decoder::Value& object, const decoder::Location& element) {
-    kept_ = true;
-    if (requests_.empty()) {
-        return;
+decoder::Location LoadContext::Frame::takePlace(std::string_view key) {
+    const auto found = places_.lower_bound(key);
+    if (found == places_.end() || found->first != key) {
+        return location_;
     }
-    Locations locations;
-    for (const std::size_t index : requests_) {
-        locations.try_emplace(context_.requests_[index].key);
-    }
-    auto walk = object.asObject();
-    for (const auto& member : walk) {
-        if (!isReservedMember(member.name)) {
-            if (const auto found = locations.find(member.name.text()); found != locations.end()) {
-                found->second.push_back(member.name.location());
-            }
-            locateStrings(member.value, locations);
-        }
-    }
-    // The same key twice: the first request belongs to the first place, and so on.
-    std::unordered_map<std::string_view, std::size_t> used;
-    for (const std::size_t index : requests_) {
-        Request& request = context_.requests_[index];
-        const auto& places = locations.find(request.key)->second;
-        if (places.empty()) {
-            request.location = element;
-        } else {
-            std::size_t& next = used[request.key];
-            request.location = places[std::min(next, places.size() - 1)];
-            ++next;
-        }
+    const decoder::Location place = found->second ? found->second : location_;
+    places_.erase(found);
+    return place;
+}
+
+void LoadContext::keyRead(std::string_view key, const decoder::Location& location) {
+    if (frame_ != nullptr) {
+        frame_->places_.emplace(key, location);
     }
 }
 
@@ -112,9 +89,9 @@ void LoadContext::resolveMemberReference(
 
 void LoadContext::add(ReferenceKey&& key, model::internal::BasicElementReference& reference,
                       bool isMember, std::function<void()>&& completion) {
-    frame_->requests_.push_back(requests_.size());
-    requests_.push_back({std::move(key).text(), &reference, isMember, &frame_->owner_,
-                         decoder::Location(), std::move(completion), false});
+    const decoder::Location place = frame_->takePlace(key.text());
+    requests_.push_back({std::move(key).text(), &reference, isMember, &frame_->owner_, place,
+                         std::move(completion), false});
 }
 
 bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::path& file,
@@ -128,14 +105,12 @@ bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::pat
         if (request.completion) {
             request.completion();
         }
-        const model::internal::ElementReferenceData& data = request.reference->data();
-        if (!data.empty() && !data.isImportReference()) {
-            const auto message = resolutionMessage(*request.reference);
-            request.resolved = !message;
-            if (message) {
-                problems.push_back({file, request.location.line(), request.location.column(),
-                                    Problem::Severity::Error, utils::string::toUtf8(*message)});
-            }
+        if (auto text = problemText(*request.reference, importKeys)) {
+            problems.push_back({file, request.location.line(), request.location.column(),
+                                Problem::Severity::Error, std::move(*text)});
+        } else {
+            const model::internal::ElementReferenceData& data = request.reference->data();
+            request.resolved = !data.empty() && !data.isImportReference();
         }
         if (!progress.advance()) {
             return false;
@@ -143,6 +118,16 @@ bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::pat
     }
     reportCircles(file, problems);
     return progress.finish();
+}
+
+void LoadContext::publishAll(const std::function<void(ElementNode&)>& failed) const {
+    for (const Request& request : requests_) {
+        try {
+            request.reference->updateValue();
+        } catch (...) {
+            failed(*request.owner);
+        }
+    }
 }
 
 void LoadContext::reportCircles(const std::filesystem::path& file,

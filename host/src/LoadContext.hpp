@@ -1,14 +1,16 @@
 #pragma once
 
 #include <corvane/utils/json/decoder/Location.hpp>
-#include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/workbench/config/Context.hpp>
+#include <corvane/workbench/config/internal/ReferenceKeyListener.hpp>
 #include <corvane/workbench/host/LoadOptions.hpp>
 #include <corvane/workbench/host/Problem.hpp>
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace corvane::workbench::host {
@@ -18,30 +20,35 @@ class ElementTree;
 
 /// Collects what skills ask to have resolved while a file is read, and resolves it when the whole
 /// tree is known. One context serves one load.
-class LoadContext final : public config::Context {
+class LoadContext final : public config::Context, private config::internal::ReferenceKeyListener {
 public:
-    /// The requests of one element are made while its frame is the newest one.
+    /// The keys and requests of one element are made while its frame is the newest one. Each
+    /// request is located at its key, or at the element when the key is of no file.
     class Frame {
     public:
-        Frame(LoadContext& context, ElementNode& owner);
+        Frame(LoadContext& context, ElementNode& owner,
+              const utils::json::decoder::Location& location);
         Frame(const Frame&) = delete;
         Frame& operator=(const Frame&) = delete;
         /// Forgets the element's requests and those of everything inside it, unless kept.
         ~Frame();
 
-        /// Keeps the requests. Each is located at the string in the element's JSON object that
-        /// holds its key, or at the element when the key stands nowhere as it is.
-        void keep(const utils::json::decoder::Value& object,
-                  const utils::json::decoder::Location& element);
+        void keep() noexcept { kept_ = true; }
 
     private:
         friend class LoadContext;
 
+        /// The place of a key that has just been handed over.
+        [[nodiscard]] utils::json::decoder::Location takePlace(std::string_view key);
+
         LoadContext& context_;
         ElementNode& owner_;
+        utils::json::decoder::Location location_;
         Frame* outer_;
         std::size_t first_;
-        std::vector<std::size_t> requests_;
+        // Where the keys stand that were read but not handed over yet; of those with the same
+        // text, the one that was read first comes first.
+        std::multimap<std::string, utils::json::decoder::Location, std::less<>> places_;
         bool kept_ = false;
     };
 
@@ -52,6 +59,10 @@ public:
     /// to the problems, as are references in a circle. False when the progress callback says so.
     [[nodiscard]] bool resolveAll(const ElementTree& tree, const std::filesystem::path& file,
                                   std::vector<Problem>& problems);
+    /// Publishes the resolved references whose properties were configured before, with the states
+    /// of empty ones. An element that throws is handed to `failed` with the exception that is being
+    /// handled.
+    void publishAll(const std::function<void(ElementNode&)>& failed) const;
 
 private:
     struct Request {
@@ -64,6 +75,7 @@ private:
         bool resolved = false;
     };
 
+    void keyRead(std::string_view key, const utils::json::decoder::Location& location) override;
     void resolveElementReference(ReferenceKey&& key,
                                  std::reference_wrapper<model::ElementReference> reference,
                                  std::function<void()>&& completion) override;

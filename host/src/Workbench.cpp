@@ -200,11 +200,13 @@ Result<ElementNode*> Workbench::add(std::string_view parentKey, std::string_view
     }
 
     State::Edit edit(*state_);
-    std::unique_ptr<ElementNode> created =
-        tree.makeNode(*parent, *elementClass, std::move(ownName));
-    ElementNode& node = *created;
+    auto created = tree.makeNode(*parent, *elementClass, std::move(ownName));
+    if (!created) {
+        return tl::unexpected(std::move(created).error());
+    }
+    ElementNode& node = **created;
     state_->collectConcerned(*parent, node.name(), edit.references);
-    tree.insert(*parent, std::move(created));
+    tree.insert(*parent, std::move(*created));
     state_->resolveWaiting(node, edit.references, 0);
     edit.guarded(
         [&] { node.properties().setEnclosingPropertyContainer(parent->properties(), {}); });

@@ -116,24 +116,23 @@ bool Workbench::State::read(utils::io::InputStream<char>& stream, const std::fil
         if (!context.resolveAll(staging, file, problems)) {
             return giveUp("the load was given up");
         }
+        bool failed = false;
+        const auto cannotDescribe = [&](ElementNode& node) {
+            failed = true;
+            try {
+                throw;
+            } catch (const std::exception& exception) {
+                problems.push_back({file, node.line(), node.column(), Problem::Severity::Error,
+                                    "the element " + inQuotes(node.primaryKey()) +
+                                        " cannot describe its properties: " + exception.what()});
+            }
+        };
+        context.publishAll(cannotDescribe);
         ProgressReport progress(options.progress, LoadProgress::Stage::Properties,
                                 staging.elementCount());
-        bool failed = false;
         bool goOn = true;
-        ElementTree::linkProperties(
-            staging.root(),
-            [&](ElementNode& node) {
-                failed = true;
-                try {
-                    throw;
-                } catch (const std::exception& exception) {
-                    problems.push_back(
-                        {file, node.line(), node.column(), Problem::Severity::Error,
-                         "the element " + inQuotes(node.primaryKey()) +
-                             " cannot describe its properties: " + exception.what()});
-                }
-            },
-            [&] { goOn = progress.advance(); });
+        ElementTree::linkProperties(staging.root(), cannotDescribe,
+                                    [&] { goOn = progress.advance(); });
         if (failed && !options.keepGoing) {
             return false;
         }

@@ -18,7 +18,7 @@ namespace corvane::workbench::host {
 
 namespace {
 
-namespace decoder = corvane::utils::json::decoder;
+namespace decoder = utils::json::decoder;
 
 /// Whether the workbench itself writes that member of the element.
 bool isOfWorkbench(std::string_view member, const ElementNode& element) {

@@ -19,13 +19,20 @@ model::internal::ElementReferenceData resolveKey(const ElementTree& tree,
     return {ElementTree::proxy(*place.node), std::string(place.rest), std::move(memberName)};
 }
 
+/// Whether a key that came with the import prefix stays an import reference. A key that begins with
+/// the prefix itself does in any case: on its own it would be read as another import reference.
+bool staysImported(std::string_view importedKey, ImportKeys importKeys) {
+    return importKeys == ImportKeys::Keep ||
+           model::internal::ElementReferenceData::parseImportReference(importedKey).has_value();
+}
+
 } // namespace
 
 model::internal::ElementReferenceData
 elementReferenceData(const ElementTree& tree, std::string_view key, ImportKeys importKeys) {
     using model::internal::ElementReferenceData;
     if (const auto imported = ElementReferenceData::parseImportReference(key)) {
-        if (importKeys == ImportKeys::Keep) {
+        if (staysImported(*imported, importKeys)) {
             return ElementReferenceData::makeImportReference(*imported);
         }
         key = *imported;
@@ -38,7 +45,7 @@ memberReferenceData(const ElementTree& tree, std::string_view key, ImportKeys im
     using model::internal::ElementReferenceData;
     const auto imported = ElementReferenceData::parseImportReference(key);
     const auto [elementKey, memberName] = model::internal::splitMemberKey(imported.value_or(key));
-    if (imported && importKeys == ImportKeys::Keep) {
+    if (imported && staysImported(*imported, importKeys)) {
         return memberName ? ElementReferenceData::makeImportReference(elementKey, *memberName)
                           : ElementReferenceData::makeImportReference(elementKey);
     }

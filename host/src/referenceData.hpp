@@ -13,7 +13,7 @@ class ElementTree;
 enum class ImportKeys {
     /// A key with the ".import:" prefix gives an import reference.
     Keep,
-    /// It is resolved like any other.
+    /// It is resolved like any other, unless the prefix comes twice.
     Resolve
 };
 

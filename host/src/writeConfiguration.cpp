@@ -16,7 +16,7 @@ namespace corvane::workbench::host {
 
 namespace {
 
-namespace encoder = corvane::utils::json::encoder;
+namespace encoder = utils::json::encoder;
 
 void writeChildren(const ElementNode& parent, encoder::Object& object);
 

@@ -26,7 +26,7 @@ struct LocatedError {
 };
 
 constexpr std::string_view kStart = "(line";
-constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kSpacesAndTabs = " \t";
 constexpr std::string_view kDigits = "0123456789";
 
 const std::regex& locationPattern() {
@@ -65,7 +65,7 @@ std::optional<LocatedError> findLocation(std::string_view message) {
 
     std::size_t start = line.find(kStart);
     while (start != std::string_view::npos) {
-        const std::size_t number = endOfRun(line, start + kStart.size(), kBlanks);
+        const std::size_t number = endOfRun(line, start + kStart.size(), kSpacesAndTabs);
         const std::size_t numberEnd = endOfRun(line, number, kDigits);
         const std::string_view digits = line.substr(number, numberEnd - number);
         const std::string_view behind = line.substr(numberEnd, std::string_view("):").size());
@@ -74,7 +74,7 @@ std::optional<LocatedError> findLocation(std::string_view message) {
             std::string(kStart).append(significantDigits(digits)).append(behind);
         std::smatch match;
         if (std::regex_search(piece, match, locationPattern())) {
-            const std::size_t text = endOfRun(line, numberEnd + behind.size(), kBlanks);
+            const std::size_t text = endOfRun(line, numberEnd + behind.size(), kSpacesAndTabs);
             return LocatedError{lineNumber(match[1]), line.substr(text)};
         }
         start = line.find(kStart, numberEnd);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <ostream>
+#include <sstream>
 
 namespace corvane::workbench::model {
 
@@ -72,7 +73,12 @@ std::ostream& operator<<(std::ostream& stream, ElementCategory category) {
     if (index < kNames.size()) {
         return stream << toBasicString<char>(category);
     }
-    return stream << kUnknown << " (" << index << ')';
+    // Written as one text, so that the stream's width holds for the whole of it.
+    std::ostringstream text;
+    text.flags(stream.flags());
+    text.imbue(stream.getloc());
+    text << kUnknown << " (" << index << ')';
+    return stream << text.view();
 }
 
 } // namespace corvane::workbench::model

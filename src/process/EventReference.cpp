@@ -8,6 +8,7 @@
 
 namespace corvane::workbench::process {
 
+EventReference::EventReference() noexcept = default;
 EventReference::EventReference(EventSearchOptions options) noexcept : options_(options) {}
 EventReference::EventReference(const model::internal::ElementReferenceData& data,
                                EventSearchOptions options)

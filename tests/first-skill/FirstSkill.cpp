@@ -1,256 +1,172 @@
-// The skill that docs/writing-a-skill.md builds, in the reference workbench.
+// The skill that the first guide builds, and the same skill without the kit.
 
-#include <corvane/utils/io/MemoryInputStream.hpp>
-#include <corvane/workbench/host/Workbench.hpp>
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
-#include <corvane/workbench/skill/EditableProperty.hpp>
-#include <corvane/workbench/skill/SubElement.hpp>
+#include <corvane/workbench/testing/Bench.hpp>
+#include <corvane/workbench/testing/matchers.hpp>
+#include <corvane/workbench/testing/savedSettings.hpp>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace {
 
-using corvane::workbench::bindings::Action;
-using corvane::workbench::host::ElementNode;
-using corvane::workbench::host::LoadResult;
-using corvane::workbench::host::Workbench;
-using corvane::workbench::skill::EditableProperty;
-using corvane::workbench::skill::SubElement;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using namespace corvane::workbench::testing;
+using testing::ElementsAre;
+using testing::Not;
 
-std::string contents(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-/// The property of that name of an element or of a row.
-template <class Owner>
-EditableProperty property(Owner& owner, std::string_view name) {
-    EditableProperty result;
-    const auto pick = [&](const EditableProperty& candidate) {
-        if (candidate.name == name) {
-            result = candidate;
-        }
-    };
-    owner.forEachEditableProperty(pick);
-    EXPECT_EQ(result.name, name);
-    return result;
-}
-
-EditableProperty property(const ElementNode* element, std::string_view name) {
-    return property(*element->skillElement(), name);
-}
-
-std::vector<SubElement*> rowsOf(const EditableProperty& list) {
-    std::vector<SubElement*> rows;
-    const auto collect = [&](SubElement& row) { rows.push_back(&row); };
-    list.forEachSubElement(collect);
-    return rows;
-}
-
-class FirstSkill : public ::testing::Test {
+class FirstSkill : public testing::TestWithParam<std::string_view> {
 protected:
-    FirstSkill() {
-        const auto loaded = workbench.loadSkills(FIRST_SKILL_LIBRARY);
-        EXPECT_TRUE(loaded) << toString(loaded.error());
-    }
+    void loadConfiguration() { bench.loadFile(FIRST_SKILL_CONFIGURATION); }
 
-    LoadResult load(std::string_view text) {
-        corvane::utils::io::MemoryInputStream<char> stream(text);
-        return workbench.loadConfiguration(stream, "mixers.json");
-    }
-
-    void loadConfiguration() {
-        const LoadResult result = workbench.loadConfiguration(FIRST_SKILL_CONFIGURATION);
-        ASSERT_TRUE(result);
-        ASSERT_THAT(result.problems, IsEmpty());
-    }
-
-    std::vector<std::string> problems() {
-        std::vector<std::string> result;
-        const auto collect = [&](const corvane::workbench::host::PropertyProblem& problem) {
-            result.push_back(problem.element->primaryKey() + ": " + problem.path);
-        };
-        workbench.forEachPropertyProblem(workbench.root(), collect);
-        return result;
-    }
-
-    Workbench workbench;
+    Bench bench{GetParam() == "kit" ? FIRST_SKILL_LIBRARY : BY_HAND_LIBRARY};
 };
 
-TEST_F(FirstSkill, TheConfigurationLoadsWithoutProblems) {
+INSTANTIATE_TEST_SUITE_P(Written, FirstSkill, testing::Values("kit", "byHand"),
+                         [](const auto& written) { return std::string(written.param); });
+
+TEST_P(FirstSkill, LoadsItsConfigurationWithoutProblems) {
     loadConfiguration();
-
-    ASSERT_EQ(workbench.elementCount(), 2U);
-    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 0U);
-    const ElementNode* main = workbench.findElement("main");
-    EXPECT_EQ(main->type(), L"Mixer");
-    EXPECT_EQ(property(main, "topSpeed").text(), L"1500");
-    const auto rows = rowsOf(property(main, "steps"));
-    ASSERT_EQ(rows.size(), 2U);
-    EXPECT_EQ(rows[1]->displayName(), L"sugar");
-    EXPECT_EQ(property(*rows[1], "speed").text(), L"900");
+    EXPECT_THAT(bench, HasErrors(0));
+    EXPECT_THAT(bench.at("main.topSpeed"), HasText("1500"));
+    EXPECT_THAT(bench.at("main.steps"), HasRows("water", "sugar"));
+    EXPECT_THAT(bench.at("main.steps[1].speed"), HasText("900"));
+    EXPECT_THAT(bench.at("second.leader"), HasText("main.speed"));
+    EXPECT_THAT(bench.element("main").attributes(), ElementsAre("speed"));
 }
 
-TEST_F(FirstSkill, AnAddedMixerIsValid) {
-    const auto added = workbench.add("", "FirstSkill.Mixer");
-
-    ASSERT_TRUE(added);
-    EXPECT_EQ((*added)->name(), "Mixer");
-    EXPECT_EQ(property(static_cast<const ElementNode*>(*added), "topSpeed").text(), L"1500");
-    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 0U);
+TEST_P(FirstSkill, AnAddedMixerIsValid) {
+    const BenchElement mixer = bench.add("FirstSkill.Mixer");
+    EXPECT_EQ(mixer.key(), "Mixer");
+    EXPECT_THAT(mixer.at("topSpeed"), HasText("1500"));
+    EXPECT_THAT(mixer.at("share"), HasText("100"));
+    EXPECT_THAT(mixer, HasErrors(0));
 }
 
-TEST_F(FirstSkill, ASetterRefusesWhatIsNoValueAndPublishesWhatIs) {
+TEST_P(FirstSkill, RefusesWhatIsNoValueAndKeepsWhatBreaksARule) {
     loadConfiguration();
-    const EditableProperty topSpeed = property(workbench.findElement("main"), "topSpeed");
-
-    EXPECT_EQ(topSpeed.setText(L"fast").error(), L"Enter a whole number.");
-    EXPECT_EQ(topSpeed.text(), L"1500");
-
-    EXPECT_TRUE(topSpeed.setText(L"3001"));
-    EXPECT_EQ(topSpeed.property.state().error(), L"The top speed must lie between 1 and 3000.");
-    EXPECT_THAT(problems(), ElementsAre("main: topSpeed"));
+    EXPECT_THAT(bench.at("main.topSpeed"), Refuses("fast", Not(testing::IsEmpty())));
+    bench.at("main.topSpeed").set("3001");
+    EXPECT_THAT(bench.at("main.topSpeed"), HasError("The top speed must lie between 1 and 3000."));
+    EXPECT_THAT(bench, HasErrors(1));
 }
 
-TEST_F(FirstSkill, TheRuleOfTheListLooksAtRowsAndTopSpeed) {
+TEST_P(FirstSkill, TheRuleOfTheListLooksAtRowsAndTopSpeed) {
     loadConfiguration();
-    const ElementNode* main = workbench.findElement("main");
-    const EditableProperty steps = property(main, "steps");
-
-    EXPECT_TRUE(property(main, "topSpeed").setText(L"800"));
-    EXPECT_EQ(steps.property.state().error(), L"No step may be faster than the top speed.");
-    EXPECT_TRUE(property(*rowsOf(steps)[1], "speed").setText(L"700"));
-    EXPECT_TRUE(steps.property.state());
+    bench.at("main.topSpeed").set("800");
+    EXPECT_THAT(bench.at("main.steps"), HasError("No step may be faster than the top speed."));
+    EXPECT_THAT(bench, Announced(R"(
+        value       main.topSpeed: 800
+        state       main.steps: error: No step may be faster than the top speed.
+        errors      main: 1
+        errors      (root): 1)"));
+    bench.at("main.steps[1].speed").set("700");
+    EXPECT_THAT(bench.at("main.steps"), IsOk());
 }
 
-TEST_F(FirstSkill, TheErrorsOfRowsCountUpToTheRoot) {
+TEST_P(FirstSkill, TheErrorsOfRowsCountUpToTheRoot) {
     loadConfiguration();
-    const EditableProperty steps = property(workbench.findElement("main"), "steps");
-
-    EXPECT_TRUE(steps.insertSubElement(1));
-    EXPECT_THAT(problems(), ElementsAre("main: steps.1.ingredient"));
-    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 1U);
-
-    EXPECT_TRUE(property(*rowsOf(steps)[1], "ingredient").setText(L"salt"));
-    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 0U);
-
-    EXPECT_TRUE(property(*rowsOf(steps)[0], "speed").setText(L"0"));
-    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 1U);
-    EXPECT_TRUE(steps.removeSubElement(0));
-    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 0U);
-
-    EXPECT_EQ(steps.insertSubElement(3).error(), L"There is no such step.");
-    EXPECT_EQ(steps.removeSubElement(2).error(), L"There is no such step.");
+    bench.at("main.steps").insertRow(1);
+    EXPECT_THAT(bench.at("main.steps[1].ingredient"), HasError("Name the ingredient."));
+    EXPECT_THAT(bench, HasErrors(1));
+    bench.at("main.steps[1].ingredient").set("salt");
+    EXPECT_THAT(bench, HasErrors(0));
+    bench.at("main.steps[0].speed").set("0");
+    EXPECT_THAT(bench.at("main.steps[0].speed"), HasError("The speed must be greater than 0."));
+    EXPECT_THAT(bench, HasErrors(1));
+    bench.at("main.steps").removeRow(0);
+    EXPECT_THAT(bench.at("main.steps"), HasRows("salt", "sugar"));
+    EXPECT_THAT(bench, HasErrors(0));
 }
 
-TEST_F(FirstSkill, ARowPublishesItsDisplayNameWithItsIngredient) {
+TEST_P(FirstSkill, RefusesRowsThatDoNotExist) {
     loadConfiguration();
-    SubElement& row = *rowsOf(property(workbench.findElement("main"), "steps"))[0];
-    int heard = 0;
-    const auto subscription = row.displayNameProperty().subscribe({.value = [&heard] { ++heard; }});
-
-    EXPECT_TRUE(property(row, "ingredient").setText(L"milk"));
-
-    EXPECT_EQ(heard, 1);
-    EXPECT_EQ(row.displayName(), L"milk");
+    EXPECT_NE(bench.at("main.steps").tryInsertRow(3), "");
+    EXPECT_NE(bench.at("main.steps").tryRemoveRow(2), "");
+    EXPECT_THAT(bench.at("main.steps"), HasRows("water", "sugar"));
 }
 
-TEST_F(FirstSkill, TheShareIsVisibleOnlyWithALeader) {
+TEST_P(FirstSkill, TheShareIsVisibleOnlyWithALeader) {
     loadConfiguration();
-    const ElementNode* second = workbench.findElement("second");
-    const EditableProperty leader = property(second, "leader");
-    const EditableProperty share = property(second, "share");
-    EXPECT_TRUE(share.property.visible());
-    EXPECT_FALSE(property(workbench.findElement("main"), "share").property.visible());
-
-    EXPECT_TRUE(workbench.setReference(leader, ""));
-    EXPECT_FALSE(share.property.visible());
-
-    EXPECT_TRUE(workbench.setReference(leader, "main.speed"));
-    EXPECT_TRUE(share.property.visible());
+    EXPECT_THAT(bench.at("second.share"), IsVisible());
+    EXPECT_THAT(bench.at("main.share"), IsHidden());
+    bench.at("second.leader").set("");
+    EXPECT_THAT(bench.at("second.share"), IsHidden());
+    bench.at("second.leader").set("main.speed");
+    EXPECT_THAT(bench.at("second.share"), IsVisible());
+    bench.at("second.share").set("0");
+    EXPECT_THAT(bench.at("second.share"), HasError("The share must be greater than 0 %."));
 }
 
-TEST_F(FirstSkill, TheLeaderFollowsARenameAndMissesARemovedElement) {
+TEST_P(FirstSkill, TheLeaderFollowsARenameAndMissesARemovedElement) {
     loadConfiguration();
-    const EditableProperty leader = property(workbench.findElement("second"), "leader");
-    std::vector<std::string> heard;
-    const auto subscription =
-        leader.property.subscribe({.value = [&] { heard.emplace_back("value"); },
-                                   .state = [&] { heard.emplace_back("state"); }});
-
-    EXPECT_TRUE(workbench.rename("main", "first"));
-    EXPECT_EQ(leader.text(), L"first.speed");
-    EXPECT_THAT(heard, ElementsAre("value"));
-
-    EXPECT_TRUE(workbench.remove("first"));
-    EXPECT_EQ(leader.text(), L"first.speed");
-    EXPECT_EQ(leader.property.state().error(), L"the element “first” does not exist");
-    EXPECT_THAT(heard, ElementsAre("value", "state"));
-    EXPECT_THAT(problems(), ElementsAre("second: leader"));
+    bench.element("main").rename("first");
+    EXPECT_THAT(bench.at("second.leader"), HasText("first.speed"));
+    EXPECT_THAT(bench.at("second.leader"), Announced(R"(
+        new key     second.leader: first.speed
+        value       second.leader: first.speed)"));
+    bench.element("first").remove();
+    EXPECT_THAT(bench.at("second.leader"), HasText("first.speed"));
+    EXPECT_THAT(bench.at("second.leader"), HasError("the element “first” does not exist"));
 }
 
-TEST_F(FirstSkill, WhatIsSavedLoadsAgainAsTheSame) {
+TEST_P(FirstSkill, AStepThatWaitsFollowsARenameAndMissesARemovedElement) {
     loadConfiguration();
-    const auto folder = std::filesystem::temp_directory_path();
-    const auto once = folder / "corvane-first-skill-once.json";
-    const auto twice = folder / "corvane-first-skill-twice.json";
-
-    ASSERT_TRUE(workbench.saveConfiguration(once));
-    ASSERT_TRUE(workbench.loadConfiguration(once));
-    ASSERT_TRUE(workbench.saveConfiguration(twice));
-
-    const std::string saved = contents(once);
-    EXPECT_EQ(saved, contents(twice));
-    EXPECT_THAT(saved, ::testing::HasSubstr("\"leader\": \"main.speed\""));
-    EXPECT_THAT(saved, ::testing::HasSubstr("\"ingredient\": \"sugar\""));
-    std::filesystem::remove(once);
-    std::filesystem::remove(twice);
+    EXPECT_THAT(bench.at("second.steps[0].waitsFor"), HasText("main"));
+    bench.element("main").rename("first");
+    EXPECT_THAT(bench.at("second.steps[0].waitsFor"), HasText("first"));
+    EXPECT_THAT(bench.at("second.steps[0].waitsFor"), IsOk());
+    bench.element("first").remove();
+    EXPECT_THAT(bench.at("second.steps[0].waitsFor"),
+                HasError("the element “first” does not exist"));
+    EXPECT_THAT(bench, HasErrors(2));
 }
 
-TEST_F(FirstSkill, AnUnknownMemberIsReportedWithItsPlace) {
-    const LoadResult result = load("{\"children\": [\n"
-                                   " {\"FirstSkill.Mixer\": {\"name\": \"m\", \"topSped\": 5}}\n"
-                                   "]}");
-
-    EXPECT_FALSE(result);
-    ASSERT_EQ(result.problems.size(), 1U);
-    EXPECT_EQ(toString(result.problems[0]),
-              "mixers.json:2:37: error: unknown parameter \"topSped\"");
+TEST_P(FirstSkill, AStepThatWaitsForNobodyThereIsAnErrorFromTheStart) {
+    bench.load(R"({"children": [{"FirstSkill.Mixer": {"name": "m", "topSpeed": 100, "steps": [
+        {"ingredient": "gone", "waitsFor": "gone"}]}}]})");
+    EXPECT_THAT(bench.problems(), ElementsAre("configuration.json:2:44: error: the element "
+                                              "“gone” does not exist"));
+    EXPECT_THAT(bench, HasErrors(1));
 }
 
-TEST_F(FirstSkill, AnUnknownMemberOfAStepIsReportedWithItsPlace) {
-    const LoadResult result =
-        load("{\"children\": [\n"
-             " {\"FirstSkill.Mixer\": {\"name\": \"m\", \"steps\": [{\"speed\": 5, \"x\": 1}]}}\n"
-             "]}");
-
-    EXPECT_FALSE(result);
-    ASSERT_EQ(result.problems.size(), 1U);
-    EXPECT_EQ(toString(result.problems[0]), "mixers.json:2:60: error: unknown parameter \"x\"");
-}
-
-TEST_F(FirstSkill, ACopyHasTheSettingsAndRowsOfItsOwn) {
+TEST_P(FirstSkill, WhatIsSavedLoadsAgainAsTheSame) {
     loadConfiguration();
-    const ElementNode* main = workbench.findElement("main");
+    const std::string saved = bench.saved();
+    EXPECT_THAT(saved, testing::HasSubstr("\"leader\": \"main.speed\""));
+    EXPECT_THAT(saved, testing::HasSubstr("\"ingredient\": \"sugar\""));
+    EXPECT_THAT(saved, testing::HasSubstr("\"waitsFor\": \"main\""));
+    bench.load(saved);
+    EXPECT_EQ(bench.saved(), saved);
+}
 
-    const auto copy = main->elementClass().factory().copyElement(*main->skillElement());
+TEST_P(FirstSkill, AnUnknownMemberIsReportedWithItsPlace) {
+    static_cast<void>(bench.tryLoad("{\"children\": [\n"
+                                    " {\"FirstSkill.Mixer\": {\"name\": \"m\", \"topSped\": 5}}\n"
+                                    "]}"));
+    EXPECT_THAT(bench.problems(),
+                ElementsAre("configuration.json:2:37: error: unknown parameter \"topSped\""));
+}
 
-    const EditableProperty steps = property(*copy, "steps");
-    EXPECT_EQ(property(*copy, "topSpeed").text(), L"1500");
-    ASSERT_EQ(rowsOf(steps).size(), 2U);
-    EXPECT_TRUE(property(*rowsOf(steps)[0], "speed").setText(L"0"));
-    EXPECT_EQ(copy->propertyErrorCount(), 1U);
-    EXPECT_EQ(workbench.root().properties().propertyErrorCount(), 0U);
+TEST_P(FirstSkill, AnUnknownMemberOfAStepIsReportedWithItsPlace) {
+    static_cast<void>(bench.tryLoad(
+        "{\"children\": [\n"
+        " {\"FirstSkill.Mixer\": {\"name\": \"m\", \"steps\": [{\"speed\": 5, \"x\": 1}]}}\n"
+        "]}"));
+    EXPECT_THAT(bench.problems(),
+                ElementsAre("configuration.json:2:60: error: unknown parameter \"x\""));
+}
+
+TEST_P(FirstSkill, ACopyHasTheSettingsAndRowsOfItsOwn) {
+    loadConfiguration();
+    const BenchElement main = bench.element("main");
+    const auto copy = main.node().elementClass().factory().copyElement(*main.node().skillElement());
+    EXPECT_EQ(savedSettings(*copy), main.saved());
+    bench.at("main.steps[0].speed").set("0");
+    EXPECT_NE(savedSettings(*copy), main.saved());
+    EXPECT_EQ(copy->propertyErrorCount(), 0U);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "TestSkill.hpp"
 
+#include "TestElementClass.hpp"
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/encoder/Array.hpp>
@@ -28,51 +29,6 @@ public:
     void forEachEditableProperty(
         corvane::utils::core::function_ref<void(const skill::EditableProperty&)>) override {}
 };
-
-template <class E>
-class Factory final : public skill::AbstractElementFactory {
-public:
-    [[nodiscard]] std::unique_ptr<skill::Element> createElement() const override {
-        return std::make_unique<E>();
-    }
-    [[nodiscard]] std::unique_ptr<skill::Element>
-    copyElement(const skill::Element& other) const override {
-        return std::make_unique<E>(dynamic_cast<const E&>(other));
-    }
-};
-
-template <class E>
-class TestElementClass final : public skill::Element::Class {
-public:
-    TestElementClass(std::string id, std::uint8_t number, ElementCategory category,
-                     bool acceptsChildren)
-        : id_(std::move(id)), number_(number), category_(category),
-          acceptsChildren_(acceptsChildren) {}
-
-    [[nodiscard]] std::string_view id() const override { return id_; }
-    [[nodiscard]] corvane::utils::core::Uuid uuid() const override {
-        corvane::utils::core::Uuid::Bytes bytes{};
-        bytes.back() = number_;
-        return corvane::utils::core::Uuid(bytes);
-    }
-    [[nodiscard]] std::wstring displayName() const override {
-        return L"Test " + corvane::utils::string::toWide(id_);
-    }
-    [[nodiscard]] std::wstring description() const override { return L"For tests."; }
-    [[nodiscard]] ElementCategory category() const override { return category_; }
-    [[nodiscard]] const skill::AbstractElementFactory& factory() const override { return factory_; }
-    [[nodiscard]] bool allowChildElement(const Class&) const override { return acceptsChildren_; }
-    [[nodiscard]] std::string defaultName() const override { return id_; }
-
-private:
-    std::string id_;
-    std::uint8_t number_;
-    ElementCategory category_;
-    bool acceptsChildren_;
-    Factory<E> factory_;
-};
-
-class TestSkillInstance final : public skill::Skill {};
 
 class TestSkillClass final : public skill::Skill::Class {
 public:

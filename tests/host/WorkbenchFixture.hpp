@@ -4,6 +4,7 @@
 // of what is told to observers.
 
 #include "TestSkill.hpp"
+#include "utils/io/TemporaryFolder.hpp"
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
@@ -13,9 +14,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -108,40 +106,6 @@ private:
             collectKeys(node.child(index), keys);
         }
     }
-};
-
-/// A folder that ends with the test.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        static std::atomic<int> count = 0;
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        path_ = std::filesystem::temp_directory_path() /
-                (std::string("corvane-host-") + test->name() + "-" + std::to_string(count++));
-        std::filesystem::remove_all(path_);
-        std::filesystem::create_directories(path_);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-    /// Writes a file and returns its path.
-    std::filesystem::path write(std::string_view name, std::string_view text) const {
-        const auto file = path_ / name;
-        std::ofstream(file, std::ios::binary) << text;
-        return file;
-    }
-    [[nodiscard]] static std::string read(const std::filesystem::path& file) {
-        std::ifstream stream(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-
-private:
-    std::filesystem::path path_;
 };
 
 } // namespace corvane::tests

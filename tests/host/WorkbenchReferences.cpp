@@ -193,6 +193,24 @@ TEST_F(WorkbenchReferences, ToImportsStayImportsUnlessAsked) {
     EXPECT_TRUE(point("a").attribute.attribute());
 }
 
+TEST_F(WorkbenchReferences, ToImportsWithADoubledPrefixAreSavedAsTheyWereRead) {
+    constexpr std::string_view kText = R"({"children": [
+        {"point": {"name": "a", "target":
+".import:.import:a", "attribute":
+".import:.import:a.value"}}]})";
+    const LoadResult result = load(kText, {.resolveImportReferences = true});
+    EXPECT_TRUE(result.loaded);
+    EXPECT_THAT(lines(result),
+                ElementsAre("test.json:3:1: error: the key “.import:a” cannot be resolved: it "
+                            "begins with “.import:”",
+                            "test.json:4:1: error: the key “.import:a.value” cannot be resolved: "
+                            "it begins with “.import:”"));
+    EXPECT_EQ(keyOf(point("a").target), ".import:a");
+    EXPECT_THAT(saved(), testing::HasSubstr("\"target\": \".import:.import:a\""));
+    EXPECT_THAT(saved(), testing::HasSubstr("\"attribute\": \".import:.import:a.value\""));
+    loadClean(kText);
+}
+
 TEST_F(WorkbenchReferences, BelowACustomElementResolveToIt) {
     loadClean(R"({"children": [{"custom": {"name": "c"}},
                                {"point": {"name": "a", "target": "c.x.y"}}]})");

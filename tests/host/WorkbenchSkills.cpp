@@ -1,3 +1,4 @@
+#include "TestElementClass.hpp"
 #include "WorkbenchFixture.hpp"
 
 #include <cstdint>
@@ -128,6 +129,31 @@ TEST_F(WorkbenchSkills, ThatCannotBeUsedLeaveEverythingAsItWas) {
         EXPECT_EQ(workbench.elementClasses().all().size(), 4U);
         EXPECT_EQ(workbench.elementClasses().find("own"), nullptr);
     }
+}
+
+/// Neither makes nor copies anything.
+class EmptyFactory final : public skill::AbstractElementFactory {
+public:
+    std::unique_ptr<skill::Element> createElement() const override { return nullptr; }
+    std::unique_ptr<skill::Element> copyElement(const skill::Element&) const override {
+        return nullptr;
+    }
+};
+
+TEST_F(WorkbenchSkills, WhoseFactoryMakesNothingAreAProblem) {
+    static const corvane::tests::SingleClassSkill<skill::Element, EmptyFactory> skill("empty", 60);
+    ASSERT_TRUE(workbench.addSkill(skill));
+    loadClean(R"({"children": [{"group": {"name": "a"}}]})");
+    const std::string sentence = "the factory of the element class “empty” makes no element";
+
+    EXPECT_EQ(textOf(workbench.add("", "empty")), sentence);
+    EXPECT_THAT(keys(), testing::ElementsAre("a"));
+
+    EXPECT_THAT(lines(load("{\"children\": [\n {\"empty\": {\"name\": \"b\"}}]}")),
+                testing::ElementsAre("test.json:2:3: error: " + sentence));
+    EXPECT_THAT(keys(), testing::ElementsAre("a"));
+
+    EXPECT_TRUE(workbench.add("", "group", "b"));
 }
 
 TEST_F(WorkbenchSkills, FromAMissingLibraryAreAProblem) {

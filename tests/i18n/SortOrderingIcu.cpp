@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <compare>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -45,6 +46,28 @@ TEST(SortOrderingIcu, FullWidthLettersAreEquivalentToOrdinaryOnes) {
 
 TEST(SortOrderingIcu, ComposedAndDecomposedLettersAreEquivalent) {
     EXPECT_EQ(compare(L"\u00FC", L"u\u0308"), kEquivalent);
+}
+
+TEST(SortOrderingIcu, MarksInAnyCanonicalOrderAreEquivalent) {
+    EXPECT_EQ(compare(L"s\u0323\u0307", L"s\u0307\u0323"), kEquivalent);
+    EXPECT_EQ(compare(L"\u1E69", L"s\u0307\u0323"), kEquivalent);
+    EXPECT_EQ(compare(L"\u212B", L"\u00C5"), kEquivalent);
+    EXPECT_EQ(compare(L"\uAC00", L"\u1100\u1161"), kEquivalent);
+}
+
+TEST(SortOrderingIcu, RunsOfDigitsOfAnyScriptAreComparedByTheirValue) {
+    EXPECT_EQ(compare(L"\uFF11\uFF19", L"\uFF12\uFF10"), kLess);
+    EXPECT_EQ(compare(L"\uFF12\uFF10", L"\uFF11\uFF10\uFF10"), kLess);
+    EXPECT_EQ(compare(L"\uFF11\uFF19", L"\uFF11\uFF10\uFF10"), kLess);
+    EXPECT_EQ(compare(L"\uFF11\uFF19", L"100"), kLess);
+    EXPECT_EQ(compare(L"\u0661\u0669", L"\u0662\u0660"), kLess);
+    EXPECT_EQ(compare(L"x19", L"x\uFF12\uFF10"), kLess);
+}
+
+TEST(SortOrderingIcu, DigitsOutsideTheBasicPlaneAreComparedByTheirValue) {
+    const wchar_t two[] = {0xD835, 0xDFD0};
+    const std::wstring ten = {0xD835, 0xDFCF, 0xD835, 0xDFCE};
+    EXPECT_EQ(compare(std::wstring_view(two, 2), ten), kLess);
 }
 
 TEST(SortOrderingIcu, ALoneSurrogateIsComparedAndDoesNotFail) {

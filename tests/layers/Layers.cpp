@@ -1,5 +1,6 @@
-// The storeys of the house: a file includes only what stands below it or in its own storey, and
-// within the storeys of independent rooms (3 and 5) only what stands in its own room.
+// The layers of the project: a file includes only files of lower layers and of its own, and in the
+// layers whose areas are independent of each other only files of its own area.
+
 #include "IncludeGraph.hpp"
 
 #include <gmock/gmock.h>
@@ -16,8 +17,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 struct Place {
-    int storey;
-    std::string room;
+    int layer;
+    std::string area;
 };
 
 bool startsWithOneOf(const std::string& text, std::initializer_list<std::string_view> prefixes) {
@@ -34,11 +35,11 @@ std::optional<Place> placeOf(const std::string& file) {
     if (file.starts_with("platform/")) {
         return Place{1, "utils"};
     }
-    if (file.starts_with("host/")) {
-        return Place{5, "host"};
-    }
     if (file.starts_with("kit/")) {
         return Place{5, "kit"};
+    }
+    if (file.starts_with("host/")) {
+        return Place{5, "host"};
     }
     if (file.starts_with("testing/")) {
         return Place{6, "testing"};
@@ -56,18 +57,18 @@ std::optional<Place> placeOf(const std::string& file) {
     if (name == "export.hpp") {
         return Place{1, "export"};
     }
-    const std::string room = name.substr(0, name.find('/'));
-    if (room == "i18n" || room == "data" || room == "io") {
-        return Place{2, room};
+    const std::string area = name.substr(0, name.find('/'));
+    if (area == "i18n" || area == "data" || area == "io") {
+        return Place{2, area};
     }
-    if (room == "bindings" || room == "json" || room == "chrono") {
-        return Place{3, room};
+    if (area == "bindings" || area == "json" || area == "chrono") {
+        return Place{3, area};
     }
     if (startsWithOneOf(name, {"process/Event.", "process/Task.", "model/ElementCategory.",
                                "model/Attribute."})) {
         return Place{3, "descriptors"};
     }
-    if (room == "model" || room == "process" || room == "config" || room == "skill") {
+    if (area == "model" || area == "process" || area == "config" || area == "skill") {
         return Place{4, "elements"};
     }
     return std::nullopt;
@@ -88,7 +89,7 @@ TEST(Layers, TheReaderOfIncludesFindsBothFormsAndNothingElse) {
                 ElementsAre("a/b.hpp", "c.hpp"));
 }
 
-TEST(Layers, EveryFileHasItsStorey) {
+TEST(Layers, EveryFileHasItsLayer) {
     for (const auto& [file, targets] : graph().edges()) {
         EXPECT_TRUE(placeOf(file)) << file << " stands in no known folder";
     }
@@ -103,26 +104,25 @@ TEST(Layers, TheGraphHasFilesAndIncludes) {
     EXPECT_GT(count, 200U);
 }
 
-TEST(Layers, AFileIncludesOnlyItsOwnStoreyAndThoseBelow) {
+TEST(Layers, AFileIncludesOnlyItsOwnLayerAndThoseBelow) {
     for (const auto& [file, targets] : graph().edges()) {
         const auto from = placeOf(file);
         for (const auto& target : targets) {
             const auto to = placeOf(target);
             if (from && to) {
-                EXPECT_LE(to->storey, from->storey) << file << " includes " << target;
+                EXPECT_LE(to->layer, from->layer) << file << " includes " << target;
             }
         }
     }
 }
 
-TEST(Layers, TheIndependentRoomsDoNotKnowEachOther) {
+TEST(Layers, TheAreasOfALayerDoNotKnowEachOther) {
     for (const auto& [file, targets] : graph().edges()) {
         const auto from = placeOf(file);
         for (const auto& target : targets) {
             const auto to = placeOf(target);
-            if (from && to && from->storey == to->storey &&
-                (from->storey == 3 || from->storey == 5)) {
-                EXPECT_EQ(to->room, from->room) << file << " includes " << target;
+            if (from && to && from->layer == to->layer) {
+                EXPECT_EQ(to->area, from->area) << file << " includes " << target;
             }
         }
     }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <iomanip>
+#include <locale>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -112,6 +113,25 @@ TEST(ElementCategory, TheFormattingFlagsOfTheStreamApplyToTheNumber) {
     std::ostringstream stream;
     stream << std::hex << std::showbase << std::uppercase << ElementCategory(-1);
     EXPECT_EQ(stream.str(), "unknown (0XFFFFFFFFFFFFFFFF)");
+}
+
+TEST(ElementCategory, TheWidthOfTheStreamHoldsForTheWholeText) {
+    std::ostringstream stream;
+    stream << std::setw(15) << std::setfill('.') << ElementCategory(17) << '|' << std::left
+           << std::setw(15) << ElementCategory(17) << '|' << std::setw(6) << ElementCategory::AI
+           << '|' << ElementCategory(17);
+    EXPECT_EQ(stream.str(), "...unknown (17)|unknown (17)...|AI....|unknown (17)");
+}
+
+TEST(ElementCategory, TheLanguageOfTheStreamAppliesToTheNumber) {
+    struct Grouping final : std::numpunct<char> {
+        char do_thousands_sep() const override { return '\''; }
+        std::string do_grouping() const override { return "\3"; }
+    };
+    std::ostringstream stream;
+    stream.imbue(std::locale(std::locale::classic(), new Grouping));
+    stream << ElementCategory(12345);
+    EXPECT_EQ(stream.str(), "unknown (12'345)");
 }
 
 TEST(ElementCategory, StreamingReturnsTheStream) {

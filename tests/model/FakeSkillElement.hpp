@@ -26,7 +26,7 @@ public:
     [[nodiscard]] std::string defaultName() const override { return "valve"; }
 };
 
-/// The skill's half of a fake element: a class without properties, and an element of that class
+/// The skill element of a fake element: a class without properties, and an element of that class
 /// that is attached to a supervisor of its own.
 class FakeSkillElement : public workbench::skill::Element {
 public:

@@ -62,6 +62,16 @@ TEST_F(EventReferenceTest, TheOptionsDefaultToNone) {
     EXPECT_FALSE(static_cast<bool>(EventReference(kWithAttributes)));
 }
 
+TEST_F(EventReferenceTest, TakesPartInAnAggregateThatIsInitializedFromEmptyBraces) {
+    struct Row {
+        EventReference trigger;
+    };
+    const Row row{};
+    EXPECT_EQ(row.trigger.options(), kNone);
+    const EventReference copied = {};
+    EXPECT_EQ(copied.options(), kNone);
+}
+
 TEST_F(EventReferenceTest, ConstructionFromAnotherTakesItsOptions) {
     EventReference source(data, kWithAttributes);
     const EventReference copy(source);

@@ -34,14 +34,14 @@ struct Parsed {
 
     explicit Parsed(const Texts& arguments) {
         CommandLine commandLine("tool command", "Does something.");
-        commandLine.addValues("--skill", "LIBRARY...", skills, "libraries");
-        commandLine.addFlag("--flag", flag, "a flag");
-        commandLine.addValue("-o,--output", "FILE", output, "a file");
+        commandLine.addValues("skill", "LIBRARY...", skills, "libraries");
+        commandLine.addFlag("flag", flag, "a flag");
+        commandLine.addValue("o,output", "FILE", output, "a file");
         commandLine.addOrdered(
-            "--add", "X", [&](const std::string& value) { ordered.push_back("add " + value); },
+            "add", "X", [&](const std::string& value) { ordered.push_back("add " + value); },
             "adds");
         commandLine.addOrdered(
-            "--drop", "X", [&](const std::string& value) { ordered.push_back("drop " + value); },
+            "drop", "X", [&](const std::string& value) { ordered.push_back("drop " + value); },
             "drops");
         commandLine.addParameter("FIRST", first, "the first parameter");
         commandLine.addParameter("SECOND", second, "the second parameter");
@@ -117,6 +117,19 @@ TEST(CommandLine, TheLastOfSeveralValuesCounts) {
     EXPECT_EQ(Parsed({"a", "b", "-o", "x", "--output", "y"}).output, "y");
 }
 
+TEST(CommandLine, AFlagMaySayThatItIsNotMeant) {
+    EXPECT_FALSE(Parsed({"a", "b", "--flag=false"}).flag);
+    EXPECT_TRUE(Parsed({"a", "b", "--flag=true"}).flag);
+}
+
+TEST(CommandLine, TakesArgumentsOfEveryLength) {
+    const std::string text(1'000'000, 'x');
+    const Parsed parsed({text, "b", "--output=" + text, "--add", text});
+    EXPECT_EQ(parsed.failure, "");
+    EXPECT_TRUE(parsed.first == text);
+    EXPECT_TRUE(parsed.output == text);
+}
+
 TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(Parsed({"a", "b", "--jsn"}).failure, "there is no option “--jsn”");
     EXPECT_EQ(Parsed({"a", "b", "--jsn=5"}).failure, "there is no option “--jsn”");
@@ -129,9 +142,10 @@ TEST(CommandLine, SaysWhatIsMissing) {
     EXPECT_EQ(Parsed({"a"}).failure, "SECOND is missing");
     EXPECT_EQ(Parsed({"--skill", "s", "a"}).failure, "SECOND is missing");
     EXPECT_EQ(Parsed({"a", "b", "--skill"}).failure, "the option --skill needs a value");
-    EXPECT_EQ(Parsed({"a", "b", "-o"}).failure, "the option --output needs a value");
+    EXPECT_EQ(Parsed({"a", "b", "-o"}).failure, "the option -o needs a value");
     EXPECT_EQ(Parsed({"a", "b", "--add"}).failure, "the option --add needs a value");
-    EXPECT_EQ(Parsed({"a", "b", "--flag=1"}).failure, "the option --flag takes no value");
+    EXPECT_EQ(Parsed({"a", "b", "--flag=x"}).failure,
+              "there is a value behind an option that takes none");
 }
 
 TEST(CommandLine, NothingIsDoneForACommandLineThatIsWrong) {

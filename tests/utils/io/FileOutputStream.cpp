@@ -2,6 +2,7 @@
 
 #include "utils/io/DeepFolder.hpp"
 #include "utils/io/TemporaryFolder.hpp"
+#include <corvane/utils/io/temporaryFiles.hpp>
 
 #include <gtest/gtest.h>
 
@@ -111,6 +112,52 @@ TEST(FileOutputStream, RefusesToReplaceAFolder) {
     const std::string text = failureText(folder.path());
     EXPECT_TRUE(text.starts_with("cannot write ")) << text;
     EXPECT_TRUE(std::filesystem::is_directory(folder.path()));
+    EXPECT_EQ(folder.count(), 0U);
+}
+
+TEST(FileOutputStream, RefusesToReplaceAReadOnlyFile) {
+    const TemporaryFolder folder;
+    const auto path = folder.write("file.json", "old content");
+    using std::filesystem::perms;
+    constexpr perms kWritable = perms::owner_write | perms::group_write | perms::others_write;
+    std::filesystem::permissions(path, kWritable, std::filesystem::perm_options::remove);
+    const std::string text = failureText(path);
+    EXPECT_TRUE(text.starts_with("cannot write ")) << text;
+    EXPECT_TRUE(text.ends_with("file.json, which is read-only: Permission denied")) << text;
+    EXPECT_EQ(TemporaryFolder::read(path), "old content");
+    EXPECT_EQ(folder.count(), 1U);
+    std::filesystem::permissions(path, perms::owner_write, std::filesystem::perm_options::add);
+}
+
+TEST(FileOutputStream, WritesIntoTheDeviceThatTakesEverything) {
+    const TemporaryFolder folder;
+#ifdef _WIN32
+    const std::filesystem::path path = "NUL";
+#else
+    // By a link in a folder of its own, so that a mistake does no harm to the system's.
+    const std::filesystem::path path = folder.path() / "null";
+    std::filesystem::create_symlink("/dev/null", path);
+#endif
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    {
+        FileOutputStream stream(path);
+        stream.write("x");
+        stream.close();
+    }
+    EXPECT_FALSE(std::filesystem::is_regular_file(path));
+    EXPECT_LE(folder.count(), 1U);
+    std::filesystem::current_path(before);
+}
+
+TEST(FileOutputStream, FailsAgainOnceItHasFailed) {
+    const TemporaryFolder folder;
+    const auto path = folder.path() / "file.json";
+    FileOutputStream stream(path);
+    corvane::utils::io::removeTemporaryFiles();
+    stream.write("x");
+    EXPECT_THROW(stream.close(), std::system_error);
+    EXPECT_NO_THROW(stream.close());
     EXPECT_EQ(folder.count(), 0U);
 }
 

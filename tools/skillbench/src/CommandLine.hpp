@@ -2,11 +2,17 @@
 
 #include <functional>
 #include <iosfwd>
+#include <map>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
+
+namespace cxxopts {
+class Options;
+class ParseResult;
+} // namespace cxxopts
 
 namespace corvane::skillbench {
 
@@ -28,8 +34,8 @@ public:
     CommandLine& operator=(const CommandLine&) = delete;
     ~CommandLine();
 
-    // The variables must live until parse() has returned. Names of options are as the user writes
-    // them, alternatives separated by commas ("-o,--output").
+    // The variables must live until parse() has returned. An option has a long name and may have a
+    // letter in front of it ("o,output").
 
     void addFlag(const std::string& names, bool& variable, const std::string& description);
     /// An option with one value; the last one counts when it comes several times.
@@ -56,8 +62,24 @@ public:
     [[nodiscard]] bool parse(std::span<const std::string> arguments, std::ostream& out);
 
 private:
-    class State;
-    std::unique_ptr<State> state_;
+    struct Parameter {
+        std::string name;
+        std::string description;
+        /// Takes what it needs from the front.
+        std::function<void(std::span<const std::string>&)> take;
+    };
+
+    [[nodiscard]] cxxopts::ParseResult parseOptions(std::span<const std::string> arguments) const;
+    void takeParameters(std::span<const std::string> given) const;
+    void printHelp(std::ostream& out) const;
+
+    std::unique_ptr<cxxopts::Options> options_;
+    std::map<std::string, bool*> flags_;
+    std::map<std::string, std::function<void(const std::string&)>> takers_;
+    std::string listName_;
+    std::vector<std::string>* list_ = nullptr;
+    std::vector<Parameter> parameters_;
+    bool help_ = false;
 };
 
 } // namespace corvane::skillbench

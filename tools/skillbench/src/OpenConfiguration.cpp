@@ -36,10 +36,10 @@ void requireReadable(const std::filesystem::path& file) {
 } // namespace
 
 void ConfigurationArguments::addTo(CommandLine& commandLine) {
-    commandLine.addValues("--skill", "LIBRARY...", skills,
+    commandLine.addValues("skill", "LIBRARY...", skills,
                           "the libraries of the skills that the configuration needs");
-    commandLine.addFlag("--keep-going", keepGoing, "leave out what cannot be loaded");
-    commandLine.addFlag("--resolve-imports", resolveImports,
+    commandLine.addFlag("keep-going", keepGoing, "leave out what cannot be loaded");
+    commandLine.addFlag("resolve-imports", resolveImports,
                         "let import references point at elements of the configuration");
     commandLine.addParameter("CONFIGURATION", configuration, "the configuration file");
 }

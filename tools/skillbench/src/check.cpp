@@ -57,7 +57,7 @@ int check(Arguments arguments, const Streams& streams) {
         "Prints what is wrong with a configuration, one problem a line: what cannot be loaded, "
         "references that do not resolve, and properties that are not valid. The exit code is 0 "
         "when there are no errors, else 1; warnings do not count.");
-    commandLine.addFlag("--json", json, "machine-readable output");
+    commandLine.addFlag("json", json, "machine-readable output");
     configurationArguments.addTo(commandLine);
     if (!commandLine.parse(arguments, streams.out)) {
         return kDone;

@@ -24,6 +24,8 @@ int save(Arguments arguments, const Streams& streams);
 int edit(Arguments arguments, const Streams& streams);
 /// Lists who refers to an element.
 int references(Arguments arguments, const Streams& streams);
+/// Writes the project of a new skill.
+int newProject(Arguments arguments, const Streams& streams);
 /// Plays keystrokes in a text box that completes a time stamp or a UUID.
 int type(Arguments arguments, const Streams& streams);
 

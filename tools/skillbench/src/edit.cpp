@@ -158,15 +158,14 @@ int edit(Arguments arguments, const Streams& streams) {
         "Edits a configuration, in the order of the options, prints what a user interface would be "
         "told and which keys changed, and saves. When an edit fails, nothing is saved. The value "
         "of a reference is a key.");
-    commandLine.addOrdered("--rename", "KEY=NAME", take("--rename"),
-                           "give an element another name");
-    commandLine.addOrdered("--move", "KEY=PARENT", take("--move"),
+    commandLine.addOrdered("rename", "KEY=NAME", take("--rename"), "give an element another name");
+    commandLine.addOrdered("move", "KEY=PARENT", take("--move"),
                            "move an element below another one; an empty PARENT is the root");
-    commandLine.addOrdered("--remove", "KEY", take("--remove"),
+    commandLine.addOrdered("remove", "KEY", take("--remove"),
                            "remove an element with everything below it");
-    commandLine.addOrdered("--set", "KEY.PROPERTY=VALUE", take("--set"),
+    commandLine.addOrdered("set", "KEY.PROPERTY=VALUE", take("--set"),
                            "set a property, or one of a row: KEY.LIST.0.PROPERTY=VALUE");
-    commandLine.addValue("-o,--output", "FILE", output,
+    commandLine.addValue("o,output", "FILE", output,
                          "the file to write, CONFIGURATION itself "
                          "without this option");
     configurationArguments.addTo(commandLine);

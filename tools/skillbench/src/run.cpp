@@ -28,6 +28,7 @@ constexpr std::array kCommands{
     Command{"save", "load a configuration and write it again", save},
     Command{"edit", "rename, move, remove and set, and see who is told", edit},
     Command{"references", "list who refers to an element", references},
+    Command{"new", "write the project of a new skill", newProject},
     Command{"type", "play keystrokes in a time stamp or UUID box", type},
 };
 

@@ -16,7 +16,7 @@ int save(Arguments arguments, const Streams& streams) {
     CommandLine commandLine("skillbench save",
                             "Loads a configuration and writes it again, in the order and form of "
                             "the workbench. The file is replaced when all is written.");
-    commandLine.addValue("-o,--output", "FILE", output,
+    commandLine.addValue("o,output", "FILE", output,
                          "the file to write, CONFIGURATION itself "
                          "without this option");
     configurationArguments.addTo(commandLine);

@@ -35,7 +35,7 @@ int show(Arguments arguments, const Streams& streams) {
         "skillbench show",
         "Prints the tree of a configuration: each element with the number of errors at and below "
         "it, each property with its state (ok, error or hidden), name and value.");
-    commandLine.addFlag("--json", json, "machine-readable output");
+    commandLine.addFlag("json", json, "machine-readable output");
     configurationArguments.addTo(commandLine);
     if (!commandLine.parse(arguments, streams.out)) {
         return kDone;

@@ -79,7 +79,7 @@ int skills(Arguments arguments, const Streams& streams) {
     CommandLine commandLine("skillbench skills",
                             "Lists the skills of libraries: id, version and name of each, then id, "
                             "category and name of its element classes.");
-    commandLine.addFlag("--json", json, "machine-readable output");
+    commandLine.addFlag("json", json, "machine-readable output");
     commandLine.addParameters("LIBRARY", libraries, "the skill libraries");
     if (!commandLine.parse(arguments, streams.out)) {
         return kDone;

@@ -72,8 +72,8 @@ int type(Arguments arguments, const Streams& streams) {
                             "cursor or “[” and “]” around the selection. Each character is a key; "
                             "the others are " +
                                 keyNames() + ".");
-    commandLine.addValue("--text", "TEXT", text, "the text in the box at the start");
-    commandLine.addValue("--cursor", "N", cursor, "where the cursor stands in it, else at its end");
+    commandLine.addValue("text", "TEXT", text, "the text in the box at the start");
+    commandLine.addValue("cursor", "N", cursor, "where the cursor stands in it, else at its end");
     commandLine.addParameter("KIND", kind, "“timestamp” or “uuid”");
     commandLine.addParameters("KEYSTROKES", texts, "the keys to press");
     if (!commandLine.parse(arguments, streams.out)) {

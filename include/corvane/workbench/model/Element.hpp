@@ -195,14 +195,13 @@ private:
     // Opens the private operations to the workbench and to the library itself.
     friend class internal::ElementAccess;
 
-    /// The skill's half of the element; throws std::bad_cast when the element was not made by a
-    /// skill.
+    /// The skill element; throws std::bad_cast when the element was not made by a skill.
     [[nodiscard]] skill::Element& getSkillElement() &;
     [[nodiscard]] skill::Element&& getSkillElement() &&;
     [[nodiscard]] const skill::Element& getSkillElement() const&;
     [[nodiscard]] const skill::Element&& getSkillElement() const&&;
 
-    /// The skill's half of the element, or null.
+    /// The skill element, or null.
     [[nodiscard]] skill::Element* getSkillElement(std::nothrow_t);
     [[nodiscard]] const skill::Element* getSkillElement(std::nothrow_t) const;
 

@@ -25,8 +25,9 @@ class CORVANE_WORKBENCH_EXPORT EventReference : public model::internal::BasicEle
 public:
     class ImportReference;
 
-    /// An empty reference.
-    explicit EventReference(EventSearchOptions options = {}) noexcept;
+    /// An empty reference. Without options none is set.
+    EventReference() noexcept;
+    explicit EventReference(EventSearchOptions options) noexcept;
     EventReference(const model::internal::ElementReferenceData& data, EventSearchOptions options);
     /// Copies the data, as the form above does.
     EventReference(model::internal::ElementReferenceData&& data, EventSearchOptions options);

@@ -8,7 +8,7 @@ namespace corvane::workbench::skill {
 
 class Element;
 
-/// Creates the skill's half of elements; each element class has one.
+/// Creates skill elements; each element class has one.
 ///
 /// The order of the virtual operations is fixed.
 class CORVANE_WORKBENCH_EXPORT AbstractElementFactory {

@@ -43,7 +43,7 @@ class AbstractElementSupervisor;
 class ElementAccess;
 } // namespace internal
 
-/// The skill's half of an element of the configuration tree. The workbench keeps a generic
+/// What a skill keeps for an element of the configuration tree. The workbench keeps a generic
 /// model::Element beside it and joins the two with an element supervisor; until the workbench has
 /// attached that supervisor, no operation that goes through it may be called. An element belongs to
 /// the workbench's tree and is used on the user-interface thread.
@@ -72,7 +72,7 @@ public:
     [[nodiscard]] std::string primaryKey() const;
 
 protected:
-    /// The workbench's half of this element. Needs a supervisor, like all below.
+    /// The workbench's element for this one. Needs a supervisor, like all below.
     [[nodiscard]] const model::Element& element() const;
     /// The element's parent. Precondition: the element is not the root.
     [[nodiscard]] const model::Element& parentElement() const;

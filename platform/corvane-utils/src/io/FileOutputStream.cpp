@@ -1,11 +1,14 @@
 #include <corvane/utils/io/FileOutputStream.hpp>
 
+#include "OutputFile.hpp"
+#include "OutputTarget.hpp"
+#include "TemporaryFile.hpp"
 #include "pathText.hpp"
 #include "systemPath.hpp"
 
-#include <cerrno>
-#include <ios>
+#include <optional>
 #include <random>
+#include <system_error>
 #include <utility>
 
 namespace corvane::utils::io {
@@ -14,52 +17,92 @@ namespace {
 
 constexpr std::size_t kBlockSize = 64 * 1024;
 
-/// The file that is to be replaced: where the path leads when it is a symbolic link.
-[[nodiscard]] std::filesystem::path targetOf(const std::filesystem::path& path) {
-    std::error_code error;
-    if (!std::filesystem::is_symlink(path, error)) {
-        return path;
-    }
-    std::filesystem::path target = std::filesystem::weakly_canonical(path, error);
-    return error ? path : target;
-}
-
-/// A name beside the target that no other file has.
-[[nodiscard]] std::filesystem::path temporaryBeside(const std::filesystem::path& target) {
-    std::random_device random;
-    for (;;) {
-        std::filesystem::path name = target;
-        name += '.' + std::to_string(random()) + ".tmp";
-        std::error_code error;
-        if (!std::filesystem::exists(name, error)) {
-            return name;
-        }
-    }
-}
-
 } // namespace
 
-FileOutputStream::FileOutputStream(std::filesystem::path path)
-    : path_(std::move(path)), target_(targetOf(systemPath(path_))) {
-    std::error_code ignored;
-    if (std::filesystem::is_directory(target_, ignored)) {
-        throwPathError("write", path_, std::make_error_code(std::errc::is_a_directory));
+/// The open file, and what becomes of it in the end. The steps throw std::system_error, in which
+/// only the reason counts.
+class FileOutputStream::Sink {
+public:
+    explicit Sink(const std::filesystem::path& path) : target_(findOutputTarget(path)) {}
+
+    void requireWritable() const {
+        if (target_.isReadOnly) {
+            throw std::system_error(std::make_error_code(std::errc::permission_denied));
+        }
     }
-    block_.resize(kBlockSize);
-    setBuffer(block_.data(), block_.data(), block_.data() + block_.size());
-    temporary_ = temporaryBeside(target_);
-    // The stream has its own, larger buffer.
-    file_.pubsetbuf(nullptr, 0);
-    errno = 0;
-    if (file_.open(temporary_, std::ios_base::out | std::ios_base::binary | std::ios_base::trunc) ==
-        nullptr) {
-        throwPathError("write", path_, lastError());
+    void open() {
+        if (target_.kind == OutputTarget::Kind::Stream) {
+            file_.emplace(OutputFile::open(target_.path));
+        } else {
+            makeTemporary();
+        }
+    }
+    void keepAccess() const {
+        if (target_.kind == OutputTarget::Kind::File) {
+            file_->takeAccessFrom(target_.path);
+        }
+    }
+
+    void write(std::string_view text) const { file_->write(text); }
+
+    void complete() {
+        if (!temporary_) {
+            file_->close();
+            return;
+        }
+        file_->flushToDisk();
+        file_->close();
+        replaceTarget(target_, temporary_->path());
+        temporary_->release();
+    }
+
+private:
+    /// Beside the target, under a name that no other file has.
+    void makeTemporary() {
+        std::random_device random;
+        while (!file_) {
+            std::filesystem::path name = target_.path;
+            name += '.' + std::to_string(random()) + ".tmp";
+            temporary_.emplace(std::move(name));
+            try {
+                file_.emplace(OutputFile::create(temporary_->path()));
+            } catch (const std::system_error& error) {
+                // Nothing of ours.
+                temporary_->release();
+                if (error.code() != std::errc::file_exists) {
+                    throw;
+                }
+            }
+        }
+    }
+
+    OutputTarget target_;
+    std::optional<TemporaryFile> temporary_;
+    std::optional<OutputFile> file_;
+};
+
+/// Does a step; when it fails, everything is undone and the path is named, with the clause behind
+/// it.
+template <class Step>
+void FileOutputStream::attempt(Step&& step, const char* clause) {
+    try {
+        step();
+    } catch (const std::system_error& error) {
+        sink_.reset();
+        throw std::system_error(error.code(), "cannot write " + pathText(path_) + clause);
     }
 }
 
-FileOutputStream::~FileOutputStream() {
-    discard();
+FileOutputStream::FileOutputStream(std::filesystem::path path) : path_(std::move(path)) {
+    block_.resize(kBlockSize);
+    setBuffer(block_.data(), block_.data(), block_.data() + block_.size());
+    attempt([&] { sink_ = std::make_unique<Sink>(systemPath(path_)); });
+    attempt([&] { sink_->requireWritable(); }, ", which is read-only");
+    attempt([&] { sink_->open(); });
+    attempt([&] { sink_->keepAccess(); }, ", whose owner and mode cannot be kept");
 }
+
+FileOutputStream::~FileOutputStream() = default;
 
 std::string FileOutputStream::description() const {
     return pathText(path_);
@@ -82,41 +125,19 @@ void FileOutputStream::writeLarge(std::string_view text) {
 }
 
 void FileOutputStream::closeSink() {
-    errno = 0;
-    if (file_.close() == nullptr) {
-        const std::error_code reason = lastError();
-        discard();
-        throwPathError("write", path_, reason);
-    }
-    std::error_code error;
-    const auto permissions = std::filesystem::status(target_, error).permissions();
-    if (!error && permissions != std::filesystem::perms::unknown) {
-        std::filesystem::permissions(temporary_, permissions, error);
-    }
-    std::filesystem::rename(temporary_, target_, error);
-    if (error) {
-        discard();
-        throwPathError("write", path_, error);
-    }
-    temporary_.clear();
+    requireSink();
+    attempt([&] { sink_->complete(); });
+    sink_.reset();
 }
 
 void FileOutputStream::writeBlock(std::string_view block) {
-    errno = 0;
-    const auto size = static_cast<std::streamsize>(block.size());
-    if (file_.sputn(block.data(), size) != size) {
-        const std::error_code reason = lastError();
-        discard();
-        throwPathError("write", path_, reason);
-    }
+    requireSink();
+    attempt([&] { sink_->write(block); });
 }
 
-void FileOutputStream::discard() noexcept {
-    if (!temporary_.empty()) {
-        file_.close();
-        std::error_code ignored;
-        std::filesystem::remove(temporary_, ignored);
-        temporary_.clear();
+void FileOutputStream::requireSink() const {
+    if (!sink_) {
+        throwPathError("write", path_, std::make_error_code(std::errc::io_error));
     }
 }
 

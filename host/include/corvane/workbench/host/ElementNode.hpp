@@ -22,17 +22,17 @@ namespace corvane::workbench::host {
 class ElementTree;
 class ReferenceProxy;
 
-/// The workbench's half of one element of the tree: its name, identity and place, its children, and
-/// the joint to the skill's half. Nodes are made, changed and destroyed by their workbench alone
-/// and keep their addresses as long as they live; everybody else reads. The root is a node of its
-/// own: invisible, without name, class and skill's half, and alive as long as the workbench.
+/// One element of the workbench's tree: its name, identity and place, its children, and the skill
+/// element, which it owns. Nodes are made, changed and destroyed by their workbench alone and keep
+/// their addresses as long as they live; everybody else reads. The root is a node of its own:
+/// invisible, without name, class and skill element, and alive as long as the workbench.
 class ElementNode final : public model::Element,
                           private model::internal::AbstractChildElementAccessor,
                           private skill::internal::AbstractElementSupervisor {
 public:
     /// The root of a tree.
     explicit ElementNode(ElementTree& tree);
-    /// An element outside any tree, joined to its skill's half.
+    /// An element outside any tree. Attaches the skill element to itself.
     ElementNode(const skill::Element::Class& elementClass,
                 std::unique_ptr<skill::Element> skillElement, std::string name,
                 const utils::core::Uuid& uuid);
@@ -42,7 +42,7 @@ public:
 
     /// The element's class. Precondition: not the root.
     [[nodiscard]] const skill::Element::Class& elementClass() const override;
-    /// The skill's half; null for the root.
+    /// Null for the root.
     [[nodiscard]] skill::Element* skillElement() const noexcept { return skillElement_.get(); }
 
     [[nodiscard]] ElementNode* parent() const noexcept { return parent_; }

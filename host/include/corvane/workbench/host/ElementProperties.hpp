@@ -9,7 +9,8 @@ namespace corvane::workbench::host {
 class ElementNode;
 
 /// Carries the error counts of an element and of everything below it up to the root: the container
-/// around the property controller of the skill's half and around the containers of the children.
+/// around the property controller that the skill element is and around the containers of the
+/// children.
 ///
 /// Part of an ElementNode; does not outlive it.
 class ElementProperties final : public bindings::PropertyContainer {

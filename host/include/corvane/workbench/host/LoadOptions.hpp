@@ -13,7 +13,8 @@ struct LoadOptions {
     /// problem ends the load. A text that is no JSON ends the load in any case.
     bool keepGoing = false;
     /// Resolve references with the ".import:" prefix against this configuration. Otherwise they
-    /// stay import references.
+    /// stay import references. One whose key begins with the prefix again stays one in any case and
+    /// is a problem then.
     bool resolveImportReferences = false;
     /// Is told now and then how far the load has come: at the beginning and the end of each stage
     /// and about a hundred times in between. Returning false gives the load up. May be empty.

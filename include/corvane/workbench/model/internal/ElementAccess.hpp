@@ -8,20 +8,20 @@
 
 namespace corvane::workbench::model::internal {
 
-/// The door to the private operations of model::Element, for the workbench and for this library;
-/// not for skills.
+/// Access to the private operations of model::Element, for the workbench and for this library; not
+/// for skills.
 class ElementAccess {
 public:
     ElementAccess() = delete;
 
-    /// The skill's half of the element; throws std::bad_cast when the element was not made by a
-    /// skill. What the element is (lvalue or not, const or not) the result is as well.
+    /// The skill element; throws std::bad_cast when the element was not made by a skill. What the
+    /// element is (lvalue or not, const or not) the result is as well.
     template <class E>
     [[nodiscard]] static decltype(auto) getSkillElement(E&& element) {
         return std::forward<E>(element).getSkillElement();
     }
 
-    /// The skill's half of the element, or null.
+    /// The skill element, or null.
     [[nodiscard]] static skill::Element* getSkillElement(Element& element, std::nothrow_t) {
         return element.getSkillElement(std::nothrow);
     }

@@ -5,8 +5,8 @@
 
 namespace corvane::workbench::skill::internal {
 
-/// Joins the skill's half of an element to the workbench's half. The workbench implements it, one
-/// object per element, and keeps it alive for as long as the skill's half is used.
+/// Joins a skill element to the workbench's element. The workbench implements it, one object per
+/// element, and keeps it alive for as long as the skill element is used.
 ///
 /// The order of the virtual operations is fixed.
 class CORVANE_WORKBENCH_EXPORT AbstractElementSupervisor {
@@ -16,7 +16,7 @@ public:
     AbstractElementSupervisor& operator=(const AbstractElementSupervisor& other);
     virtual ~AbstractElementSupervisor() = 0;
 
-    /// The workbench's half of the element.
+    /// The workbench's element.
     [[nodiscard]] virtual const model::Element& element() const = 0;
     /// The element's class: the very object that the skill registered.
     [[nodiscard]] virtual const Element::Class& elementClass() const = 0;

@@ -7,7 +7,7 @@
 
 namespace corvane::workbench::skill::internal {
 
-/// The workbench's one door to the private operations of skill elements. Skills do not use it.
+/// The workbench's access to the private operations of skill elements. Skills do not use it.
 ///
 /// Each function forwards to the operation of the same name; see Element for the contracts.
 class ElementAccess {

@@ -1,11 +1,16 @@
 // The guides quote code that is compiled and tested: each of their code blocks stands in one of the
 // files that the guide is about, but for the indentation of the block as a whole.
 
+#include "run.hpp"
+#include "utils/io/TemporaryFolder.hpp"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <ostream>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -83,6 +88,17 @@ bool standsIn(const Lines& block, const Lines& file) {
     return false;
 }
 
+/// The lines that a patch adds.
+Lines addedBy(const Lines& patch) {
+    Lines added;
+    for (const std::string& line : patch) {
+        if (line.starts_with('+') && !line.starts_with("+++")) {
+            added.push_back(line.substr(1));
+        }
+    }
+    return added;
+}
+
 /// The blocks of the guide, by line, that stand in none of the files.
 std::vector<std::size_t> strangers(const Lines& guide, const std::vector<Lines>& files) {
     std::vector<std::size_t> result;
@@ -95,35 +111,71 @@ std::vector<std::size_t> strangers(const Lines& guide, const std::vector<Lines>&
     return result;
 }
 
-void expectQuotes(std::string_view name, const std::vector<std::filesystem::path>& paths,
-                  std::size_t count) {
-    const Lines guide = linesOf(std::filesystem::path(GUIDES_FOLDER) / name);
+struct Guide {
+    std::string_view name;
+    /// Files and folders of the checkout. Of a patch it is the lines that it adds.
+    std::vector<std::string_view> sources;
+    std::size_t blockCount;
+    /// The project that the guide makes with `skillbench new`, if it does.
+    std::string_view project{};
+};
+
+std::ostream& operator<<(std::ostream& stream, const Guide& guide) {
+    return stream << guide.name;
+}
+
+class CodeBlocksOf : public ::testing::TestWithParam<Guide> {};
+
+TEST_P(CodeBlocksOf, StandInFilesThatAreCompiled) {
+    const std::filesystem::path checkout = CHECKOUT_FOLDER;
+    const Lines guide = linesOf(checkout / GetParam().name);
+    const corvane::tests::TemporaryFolder folder;
     std::vector<Lines> files;
-    for (const std::filesystem::path& path : paths) {
-        files.push_back(linesOf(path));
+    const auto add = [&](const std::filesystem::path& path) {
+        if (std::filesystem::is_directory(path)) {
+            for (const auto& entry : std::filesystem::recursive_directory_iterator(path)) {
+                if (entry.is_regular_file()) {
+                    files.push_back(linesOf(entry.path()));
+                }
+            }
+        } else {
+            files.push_back(path.extension() == ".patch" ? addedBy(linesOf(path)) : linesOf(path));
+        }
+    };
+    for (const std::string_view source : GetParam().sources) {
+        add(checkout / source);
     }
-    EXPECT_EQ(codeBlocks(guide).size(), count);
+    if (const std::string project(GetParam().project); !project.empty()) {
+        std::ostringstream out;
+        const std::vector<std::string> arguments{"new", project, "--in", folder.path().string()};
+        ASSERT_EQ(corvane::skillbench::run(arguments, {out, out}), 0) << out.str();
+        add(folder.path() / project);
+    }
+    EXPECT_EQ(codeBlocks(guide).size(), GetParam().blockCount);
     for (const std::size_t line : strangers(guide, files)) {
-        ADD_FAILURE() << name << ':' << line << ": this code stands in no file of the example";
+        ADD_FAILURE() << GetParam().name << ':' << line
+                      << ": this code stands in no file of the example";
     }
 }
 
-TEST(CodeBlocks, OfTheGuideToSkillsAreThoseOfTheExample) {
-    std::vector<std::filesystem::path> files{TESTS_FOLDER "/FirstSkill.cpp"};
-    for (const auto& entry : std::filesystem::directory_iterator(EXAMPLE_FOLDER)) {
-        files.push_back(entry.path());
-    }
-    expectQuotes("writing-a-skill.md", files, 22);
-}
-
-TEST(CodeBlocks, OfTheGuideToPropertiesAreThoseOfItsTest) {
-    expectQuotes("properties.md", {TESTS_FOLDER "/PropertiesGuide.cpp"}, 8);
-}
-
-TEST(CodeBlocks, OfTheGuideToReferencesAreThoseOfItsTest) {
-    expectQuotes("references.md",
-                 {TESTS_FOLDER "/ReferencesGuide.cpp", EXAMPLE_FOLDER "/Mixer.cpp"}, 3);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Every, CodeBlocksOf,
+    ::testing::Values(
+        Guide{"README.md", {"examples/first-skill"}, 1},
+        Guide{"docs/first-skill.md", {"tests/guides/height.patch"}, 5, "tank"},
+        Guide{"docs/settings.md", {"tests/guides/Settings.cpp"}, 2},
+        Guide{"docs/rules.md", {"tests/guides/Settings.cpp"}, 3},
+        Guide{"docs/rows.md", {"tests/guides/Rows.cpp"}, 4},
+        Guide{"docs/members.md", {"tests/guides/Rows.cpp"}, 1},
+        Guide{"docs/files.md", {"examples/first-skill"}, 1},
+        Guide{"docs/by-hand.md", {"examples/by-hand", "tests/first-skill/FirstSkill.cpp"}, 22},
+        Guide{"docs/properties.md", {"tests/guides/Properties.cpp"}, 8},
+        Guide{"docs/references.md", {"tests/guides/References.cpp", "examples/by-hand"}, 3}),
+    [](const auto& guide) {
+        std::string name(guide.param.name);
+        std::ranges::replace_if(name, [](char letter) { return !std::isalnum(letter); }, '_');
+        return name;
+    });
 
 TEST(CodeBlocks, AreFoundInsideAFileWhateverItsIndentation) {
     const Lines guide = linesOf(std::string("text\n```cpp\nif (a) {\n    b();\n\n}\n```\n"));

@@ -1,9 +1,12 @@
-// The commands of docs/writing-a-skill.md print what the guide says that they print.
+// The commands of the guides print what the guides say that they print.
 
 #include "run.hpp"
+#include "utils/io/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -19,11 +22,18 @@ struct Command {
 };
 
 /// Good in another folder, also where that is on another drive.
-std::string absolute(const std::filesystem::path& path) {
+std::string absoluteText(const std::filesystem::path& path) {
     return std::filesystem::absolute(path).string();
 }
 
 constexpr std::string_view kPrompt = "$ ./dev skillbench ";
+constexpr std::string_view kLibraries = "build/tools/bin/";
+
+/// The skill of this build that a guide names by its place in another one.
+std::string libraryOf(const std::string& named) {
+    return absoluteText(std::filesystem::path(LIBRARY_FOLDER) /
+                        std::filesystem::path(named).replace_extension(SKILL_EXTENSION).filename());
+}
 
 /// The commands at the prompt in the guide's blocks, each with the lines up to the block's end.
 std::vector<Command> commandsOf(const std::filesystem::path& guide) {
@@ -38,9 +48,7 @@ std::vector<Command> commandsOf(const std::filesystem::path& guide) {
             std::istringstream words(line.substr(kPrompt.size()));
             Command& command = commands.emplace_back();
             for (std::string word; words >> word;) {
-                command.arguments.push_back(word == "build/tools/bin/first-skill.so"
-                                                ? absolute(FIRST_SKILL_LIBRARY)
-                                                : word);
+                command.arguments.push_back(word.starts_with(kLibraries) ? libraryOf(word) : word);
             }
             printing = true;
         } else if (line == "```") {
@@ -52,30 +60,38 @@ std::vector<Command> commandsOf(const std::filesystem::path& guide) {
     return commands;
 }
 
-/// In a folder of its own, which holds the configuration where the guide has it.
-class GuideCommands : public ::testing::Test {
+/// In a folder of its own, which holds the configurations where the guides have them.
+class GuideCommands : public ::testing::TestWithParam<const char*> {
 protected:
-    GuideCommands() : commands(commandsOf(GUIDES_FOLDER "/writing-a-skill.md")) {
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_ / "examples/first-skill");
-        std::filesystem::copy(FIRST_SKILL_CONFIGURATION, folder_ / "examples/first-skill");
-        std::filesystem::current_path(folder_);
+    GuideCommands()
+        : commands(commandsOf(std::filesystem::path(CHECKOUT_FOLDER "/docs") / GetParam())) {
+        for (const char* const example : {"examples/first-skill", "examples/by-hand"}) {
+            std::filesystem::create_directories(folder_.path() / example);
+            std::filesystem::copy(std::filesystem::path(CHECKOUT_FOLDER) / example /
+                                      "configuration.json",
+                                  folder_.path() / example);
+        }
+        std::filesystem::current_path(folder_.path());
     }
     ~GuideCommands() override {
         std::error_code ignored;
         std::filesystem::current_path(before_, ignored);
-        std::filesystem::remove_all(folder_, ignored);
     }
 
     std::vector<Command> commands;
 
 private:
     std::filesystem::path before_ = std::filesystem::current_path();
-    std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / "corvane-first-skill-guide";
+    corvane::tests::TemporaryFolder folder_;
 };
 
-TEST_F(GuideCommands, PrintWhatTheGuideSays) {
+INSTANTIATE_TEST_SUITE_P(Of, GuideCommands, ::testing::Values("by-hand.md"), [](const auto& page) {
+    std::string name = page.param;
+    std::ranges::replace_if(name, [](char letter) { return !std::isalnum(letter); }, '_');
+    return name;
+});
+
+TEST_P(GuideCommands, PrintWhatTheGuideSays) {
     ASSERT_EQ(commands.size(), 3U);
     for (const Command& command : commands) {
         std::ostringstream out;

@@ -4,7 +4,7 @@
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
-namespace first_skill {
+namespace by_hand {
 
 class MixerFactory final : public workbench::skill::AbstractElementFactory {
 public:
@@ -30,4 +30,4 @@ private:
     MixerFactory factory_;
 };
 
-} // namespace first_skill
+} // namespace by_hand

@@ -7,10 +7,11 @@
 #include <corvane/workbench/skill/EditableProperty.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
-namespace first_skill {
+namespace by_hand {
 
 using State = workbench::bindings::PropertyController::PropertyState;
 
@@ -25,5 +26,10 @@ workbench::skill::EditableProperty textEditor(std::string_view name, std::string
 workbench::skill::EditableProperty numberEditor(std::string_view name, std::string_view displayName,
                                                 const workbench::bindings::PropertyHandle& property,
                                                 std::int64_t& value);
+/// Shows a reference as its key. It has no setter: only the workbench makes references from keys.
+workbench::skill::EditableProperty
+referenceEditor(std::string_view name, std::string_view displayName,
+                const workbench::bindings::PropertyHandle& property,
+                const std::function<std::string()>& key);
 
-} // namespace first_skill
+} // namespace by_hand

@@ -5,14 +5,14 @@
 #include <corvane/utils/string/transcode.hpp>
 #include <corvane/workbench/i18n/translate.hpp>
 
-namespace first_skill {
+namespace by_hand {
 
 using workbench::bindings::Action;
 using workbench::bindings::PropertyHandle;
 using workbench::skill::EditableProperty;
 
 std::wstring text(std::string_view english) {
-    return workbench::i18n::translate("first_skill", english);
+    return workbench::i18n::translate("by_hand", english);
 }
 
 State check(bool condition, std::string_view message) {
@@ -55,4 +55,14 @@ EditableProperty numberEditor(std::string_view name, std::string_view displayNam
         }};
 }
 
-} // namespace first_skill
+EditableProperty referenceEditor(std::string_view name, std::string_view displayName,
+                                 const PropertyHandle& property,
+                                 const std::function<std::string()>& key) {
+    return {.name = std::string(name),
+            .displayName = text(displayName),
+            .editor = EditableProperty::Editor::Reference,
+            .property = property,
+            .text = [key] { return utils::string::toWide(key()); }};
+}
+
+} // namespace by_hand

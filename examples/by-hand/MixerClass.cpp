@@ -2,7 +2,7 @@
 
 #include "Mixer.hpp"
 
-namespace first_skill {
+namespace by_hand {
 
 std::unique_ptr<workbench::skill::Element> MixerFactory::createElement() const {
     return std::make_unique<Mixer>();
@@ -17,4 +17,4 @@ utils::core::Uuid MixerClass::uuid() const {
     return utils::core::Uuid::parse("5f0c2a8e-93b7-4d8e-a1c4-2f6d0b9e7713").value();
 }
 
-} // namespace first_skill
+} // namespace by_hand

@@ -2,19 +2,26 @@
 
 #include <iterator>
 
-namespace first_skill {
+namespace by_hand {
 
 Steps::Steps(const Steps& other) : PropertyContainer(other) {
     for (const auto& row : other.rows_) {
-        insert(size(), *row);
+        rows_.push_back(std::make_unique<Step>(*row));
     }
 }
 
-Step& Steps::insert(std::size_t index, const Step& step) {
+Step& Steps::append() {
+    return *rows_.emplace_back(std::make_unique<Step>());
+}
+
+void Steps::link() {
+    subPropertyContainerListChanged({.updateEnclosingContainers = true});
+}
+
+void Steps::insert(std::size_t index) {
     const auto place = std::next(rows_.begin(), static_cast<std::ptrdiff_t>(index));
-    Step& row = **rows_.insert(place, std::make_unique<Step>(step));
+    Step& row = **rows_.insert(place, std::make_unique<Step>());
     row.setEnclosingPropertyContainer(*this, {});
-    return row;
 }
 
 void Steps::remove(std::size_t index) {
@@ -45,4 +52,4 @@ void Steps::propertyNotificationRaised(const workbench::bindings::PropertyId& pr
     raisePropertyNotification(property);
 }
 
-} // namespace first_skill
+} // namespace by_hand

@@ -71,7 +71,7 @@ protected:
 
 /// The cells of the rows of the guide's table with that heading, without the quoting of code.
 std::vector<std::vector<std::string>> tableOfTheGuide(std::string_view heading) {
-    std::ifstream stream(GUIDES_FOLDER "/references.md");
+    std::ifstream stream(CHECKOUT_FOLDER "/docs/references.md");
     std::vector<std::vector<std::string>> rows;
     bool inTable = false;
     for (std::string line; std::getline(stream, line);) {

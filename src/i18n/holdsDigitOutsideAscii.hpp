@@ -1,0 +1,13 @@
+#pragma once
+
+// Looks for the digits of other scripts.
+
+#include "IcuText.hpp"
+
+namespace corvane::workbench::i18n {
+
+/// Whether a character of the text is a decimal digit but none of 0 to 9. Costs next to nothing for
+/// a text of Latin and Greek letters.
+[[nodiscard]] bool holdsDigitOutsideAscii(const IcuText& text);
+
+} // namespace corvane::workbench::i18n
