@@ -239,7 +239,9 @@ TEST(Duration, LegacyMicrosecondsFollowTheRuleOverTheWholeRange) {
 }
 
 TEST(Duration, ALegacyNumberThatIsNoWholeSigned64BitCountIsOutOfRange) {
-    for (const char* const number : {"1.5", "9223372036854775808", "1e30"}) {
+    for (const char* const number :
+         {"1.5", "9223372036854775808", "1e30", "-9223372036854775809", "-9223372036854775808.5",
+          "9007199254740992.5", "1.00000000000000000001"}) {
         try {
             static_cast<void>(loadLegacy(number));
             ADD_FAILURE() << number;
