@@ -30,6 +30,8 @@ class Value;
 
 namespace internal {
 
+class MemberIndex;
+
 template <class T>
 concept MemberFilterFunction = std::is_invocable_r_v<bool, T&, const utils::json::decoder::Name&,
                                                      utils::json::decoder::Value&>;
@@ -137,6 +139,8 @@ private:
     void decodeInternal(utils::json::decoder::Object& source, MemberFilter filter,
                         DecodingOptions options);
     void decodeMembers(utils::json::decoder::Object& source, DecodingOptions options);
+    Value& valueOf(const utils::json::decoder::Name& name, internal::MemberIndex& index,
+                   DecodingOptions options);
     static tl::expected<Object, std::wstring>
     fromStringInternal(std::string_view text, MemberFilter filter, DecodingOptions options);
 

@@ -40,7 +40,7 @@ concept Integer = std::integral<T> && !OneOf<T, bool, char, wchar_t, char8_t, ch
 /// Any JSON value held in memory, for configuration that is kept without knowing its meaning.
 ///
 /// A value type; not synchronised. Copying, comparing, writing and destroying walk the nested
-/// values recursively: what the decoder accepts (512 levels) fits a stack of 1 MiB.
+/// values recursively: what the decoder accepts (512 levels) fits into 300 KiB of stack.
 class CORVANE_WORKBENCH_EXPORT Value {
 public:
     struct Null {
