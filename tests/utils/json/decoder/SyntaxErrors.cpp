@@ -103,7 +103,7 @@ TEST(JsonSyntaxError, SaysThatTheTextEndsTooSoon) {
 TEST(JsonSyntaxError, SaysThatThereIsNothing) {
     EXPECT_EQ(syntaxError(""), "1:1 JSON syntax error (line 1): the text is empty");
     EXPECT_EQ(syntaxError(" \n\t\r\n "),
-              "3:2 JSON syntax error (line 3): the text holds nothing but blanks");
+              "3:2 JSON syntax error (line 3): the text holds nothing but whitespace");
 }
 
 TEST(JsonSyntaxError, NamesAByteOrderMark) {
