@@ -11,7 +11,8 @@ fail() {
 # header (by its suffix), an absolute path, or the start of a file name below /usr/lib (behind "@").
 needs_of() {
     local base="cmake:cmake ninja-build:ninja ccache:ccache
-        libexpected-dev:tl/expected.hpp libicu-dev:unicode/ucol.h libcxxopts-dev:cxxopts.hpp"
+        libexpected-dev:tl/expected.hpp libfast-float-dev:fast_float/fast_float.h
+        libicu-dev:unicode/ucol.h libcxxopts-dev:cxxopts.hpp"
     local tests="libgtest-dev:gtest/gtest.h libgmock-dev:gmock/gmock.h
         nlohmann-json3-dev:nlohmann/json.hpp libsimdjson-dev:simdjson.h"
     case $1 in

@@ -9,13 +9,14 @@ set(CMAKE_CROSSCOMPILING_EMULATOR wine)
 # Header-only packages come through a folder of links: the system's include folder would bring the
 # host's C library along.
 set(links "${CMAKE_BINARY_DIR}/header-links")
-foreach(header IN ITEMS tl cxxopts.hpp)
+foreach(header IN ITEMS tl cxxopts.hpp fast_float)
     if(EXISTS "/usr/include/${header}" AND NOT EXISTS "${links}/include/${header}")
         file(MAKE_DIRECTORY "${links}/include")
         file(CREATE_LINK "/usr/include/${header}" "${links}/include/${header}" SYMBOLIC)
     endif()
 endforeach()
-foreach(package IN ITEMS tl-expected:tl::expected cxxopts:cxxopts::cxxopts)
+foreach(package IN ITEMS tl-expected:tl::expected cxxopts:cxxopts::cxxopts
+        FastFloat:FastFloat::fast_float)
     string(REGEX MATCH "^([^:]+):(.*)$" _ "${package}")
     string(TOLOWER "${CMAKE_MATCH_1}" name)
     file(WRITE "${links}/lib/cmake/${name}/${name}-config.cmake"

@@ -28,6 +28,16 @@ namespace corvane::workbench::json {
 
 class Value;
 
+namespace internal {
+
+class MemberIndex;
+
+template <class T>
+concept MemberFilterFunction = std::is_invocable_r_v<bool, T&, const utils::json::decoder::Name&,
+                                                     utils::json::decoder::Value&>;
+
+} // namespace internal
+
 /// A JSON object held in memory: members, each a name and a value, in the order in which they were
 /// read or added. To use the members include json/Value.hpp.
 ///
@@ -90,18 +100,15 @@ public:
     void decode(utils::json::decoder::Object& source, DecodingOptions options = {});
 
     /// The same with a filter, which sees each member before it is decoded: true consumes the
-    /// member. It is called as bool(const decoder::Name&, decoder::Value&).
-    template <class Filter>
-        requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
-                                       utils::json::decoder::Value&>
-    void decode(utils::json::decoder::Value& source, const Filter& filter,
+    /// member. It is called as bool(const decoder::Name&, decoder::Value&), on the object itself,
+    /// and not after this call has ended, in whatever way.
+    template <internal::MemberFilterFunction Filter>
+    void decode(utils::json::decoder::Value& source, Filter&& filter,
                 DecodingOptions options = {}) {
         decodeInternal(source, MemberFilter(filter), options);
     }
-    template <class Filter>
-        requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
-                                       utils::json::decoder::Value&>
-    void decode(utils::json::decoder::Object& source, const Filter& filter,
+    template <internal::MemberFilterFunction Filter>
+    void decode(utils::json::decoder::Object& source, Filter&& filter,
                 DecodingOptions options = {}) {
         decodeInternal(source, MemberFilter(filter), options);
     }
@@ -114,11 +121,9 @@ public:
     /// Reads a whole JSON text; the error is a message for the user.
     [[nodiscard]] static tl::expected<Object, std::wstring>
     fromString(std::string_view text, DecodingOptions options = {});
-    template <class Filter>
-        requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
-                                       utils::json::decoder::Value&>
+    template <internal::MemberFilterFunction Filter>
     [[nodiscard]] static tl::expected<Object, std::wstring>
-    fromString(std::string_view text, const Filter& filter, DecodingOptions options = {}) {
+    fromString(std::string_view text, Filter&& filter, DecodingOptions options = {}) {
         return fromStringInternal(text, MemberFilter(filter), options);
     }
     [[nodiscard]] std::string toString(utils::json::encoder::Document::Format format) const;
@@ -134,6 +139,8 @@ private:
     void decodeInternal(utils::json::decoder::Object& source, MemberFilter filter,
                         DecodingOptions options);
     void decodeMembers(utils::json::decoder::Object& source, DecodingOptions options);
+    Value& valueOf(const utils::json::decoder::Name& name, internal::MemberIndex& index,
+                   DecodingOptions options);
     static tl::expected<Object, std::wstring>
     fromStringInternal(std::string_view text, MemberFilter filter, DecodingOptions options);
 
