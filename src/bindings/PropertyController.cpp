@@ -56,7 +56,7 @@ void PropertyController::publish(const PropertyId& property, Action action,
     if (const auto data = properties_.find(property)) {
         publishGlobally([&](PropertyChanges& changes) {
             data->publish(action, index, changes);
-            updateDependentProperties(*data, changes);
+            changes |= updateDependentProperties(*data);
         });
         raisePropertyNotifications(*data);
     }
@@ -67,7 +67,7 @@ void PropertyController::publishValue(const PropertyId& property, Action action,
     if (const auto data = properties_.find(property)) {
         publishGlobally([&](PropertyChanges& changes) {
             changes |= data->publishValue(action, index);
-            updateDependentProperties(*data, changes);
+            changes |= updateDependentProperties(*data);
         });
         raisePropertyNotifications(*data);
     }
@@ -142,13 +142,17 @@ void PropertyController::configurePropertyInternal(const PropertyId& property,
                                                    PropertyConfiguration&& configuration,
                                                    const ClassifiedProperty& classified) {
     internal::FirstException failure;
-    if (classified.subPropertyContainer != nullptr) {
+    if (PropertyContainer* const container = classified.subPropertyContainer) {
         failure.run([&] {
-            classified.subPropertyContainer->setEnclosingPropertyContainer(
-                *this, {.reservedFlag = false,
-                        .keepNewContainerCount = true,
-                        .keepOldContainerCount = false});
+            container->setEnclosingPropertyContainer(*this, {.reservedFlag = false,
+                                                             .keepNewContainerCount = true,
+                                                             .keepOldContainerCount = false});
         });
+        // A container that could not be linked leaves the property as it was. One that was, whoever
+        // failed to hear of it, has to be found in the property.
+        if (container->enclosingPropertyContainer() != this) {
+            failure.rethrow();
+        }
     }
     if (classified.crossReferenceController != nullptr) {
         classified.crossReferenceController->setReferringController(*this);
@@ -214,15 +218,24 @@ void PropertyController::publishGlobally(Publication&& publication) const {
     failure.rethrow();
 }
 
-void PropertyController::updateDependentProperties(const PropertyData& data,
-                                                   PropertyChanges& changes) const {
-    // By position and with a copy, since a callback may cause a configuration that adds dependents.
-    for (std::size_t i = 0; i < data.dependentProperties().size(); ++i) {
-        const Dependency dependency = data.dependentProperties()[i];
-        if (const auto dependent = properties_.find(dependency.property)) {
-            dependent->publishDependency(dependency, changes);
+PropertyController::PropertyChanges
+PropertyController::updateDependentProperties(const PropertyData& data) const {
+    PropertyChanges changes;
+    internal::FirstException failure;
+    const bool complete = failure.run([&] {
+        // By position and with a copy: a callback may cause a configuration that adds dependents.
+        for (std::size_t i = 0; i < data.dependentProperties().size(); ++i) {
+            const Dependency dependency = data.dependentProperties()[i];
+            if (const auto dependent = properties_.find(dependency.property)) {
+                dependent->publishDependency(dependency, changes);
+            }
         }
+    });
+    if (!complete) {
+        failure.run([&] { publishGlobalChanges(changes); });
     }
+    failure.rethrow();
+    return changes;
 }
 
 void PropertyController::publishGlobalChanges(const PropertyChanges& changes) const {
