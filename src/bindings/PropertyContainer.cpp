@@ -219,8 +219,7 @@ void PropertyContainer::unsubscribeFromPropertyErrorCount(std::uint64_t id) noex
 }
 
 void PropertyContainer::publishPropertyErrorCount() const {
-    errorCountSubscriptions_.forEach(
-        [](std::uint64_t, const std::function<void()>& callback) { callback(); });
+    errorCountSubscriptions_.forEach([](const auto& subscriber) { (*subscriber.callbacks)(); });
 }
 
 // The one place where counts travel upward.

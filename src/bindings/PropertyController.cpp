@@ -212,17 +212,19 @@ void PropertyController::unsubscribe(const PropertyId& property, std::size_t id)
 template <class Publication>
 void PropertyController::publishGlobally(Publication&& publication) const {
     PropertyChanges changes;
-    internal::FirstException failure;
-    failure.run([&] { publication(changes); });
-    failure.run([&] { publishGlobalChanges(changes); });
-    failure.rethrow();
+    try {
+        publication(changes);
+    } catch (...) {
+        internal::FirstException().run([&] { publishGlobalChanges(changes); });
+        throw;
+    }
+    publishGlobalChanges(changes);
 }
 
 PropertyController::PropertyChanges
 PropertyController::updateDependentProperties(const PropertyData& data) const {
     PropertyChanges changes;
-    internal::FirstException failure;
-    const bool complete = failure.run([&] {
+    try {
         // By position and with a copy: a callback may cause a configuration that adds dependents.
         for (std::size_t i = 0; i < data.dependentProperties().size(); ++i) {
             const Dependency dependency = data.dependentProperties()[i];
@@ -230,11 +232,10 @@ PropertyController::updateDependentProperties(const PropertyData& data) const {
                 dependent->publishDependency(dependency, changes);
             }
         }
-    });
-    if (!complete) {
-        failure.run([&] { publishGlobalChanges(changes); });
+    } catch (...) {
+        internal::FirstException().run([&] { publishGlobalChanges(changes); });
+        throw;
     }
-    failure.rethrow();
     return changes;
 }
 
@@ -269,12 +270,7 @@ void PropertyController::raisePropertyNotifications(const PropertyData& data) co
 
 bool PropertyController::updateCachedPropertyErrorCount() const {
     ensurePropertiesConfigured();
-    std::size_t count = 0;
-    properties_.forEach([&](const PropertyData& data) {
-        if (!data.state().has_value()) {
-            ++count;
-        }
-    });
+    const std::size_t count = properties_.errorCount();
     return std::exchange(cachedPropertyErrorCount_, count) != count;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <corvane/utils/core/function_ref.hpp>
-#include <corvane/workbench/bindings/internal/SubscriptionMap.hpp>
+#include <corvane/workbench/bindings/internal/SubscriptionList.hpp>
 #include <corvane/workbench/export.hpp>
 
 #include <cstddef>
@@ -211,7 +211,7 @@ private:
     // The order of the first three fields is fixed.
     PropertyContainer* enclosingPropertyContainer_ = nullptr;
     std::uint64_t subContainerPropertyErrorCount_ = 0;
-    internal::SubscriptionMap<std::uint64_t, std::function<void()>> errorCountSubscriptions_;
+    internal::SubscriptionList<std::uint64_t, std::function<void()>> errorCountSubscriptions_;
 
     // The part of this container's count that the enclosing container has not been given yet: not
     // zero only while this container's own subscribers hear of a change.
