@@ -66,7 +66,7 @@ void PropertyController::publishValue(const PropertyId& property, Action action,
                                       std::size_t index) const {
     if (const auto data = properties_.find(property)) {
         publishGlobally([&](PropertyChanges& changes) {
-            changes |= data->publishValue(action, index);
+            static_cast<void>(data->publishValue(action, index)); // changes nothing
             changes |= updateDependentProperties(*data);
         });
         raisePropertyNotifications(*data);
@@ -218,12 +218,17 @@ void PropertyController::publishGlobally(Publication&& publication) const {
         internal::FirstException().run([&] { publishGlobalChanges(changes); });
         throw;
     }
-    publishGlobalChanges(changes);
+    if (changes.subPropertyVisibilityChanged || changes.errorCountMayHaveChanged) {
+        publishGlobalChanges(changes);
+    }
 }
 
 PropertyController::PropertyChanges
 PropertyController::updateDependentProperties(const PropertyData& data) const {
     PropertyChanges changes;
+    if (data.dependentProperties().empty()) {
+        return changes;
+    }
     try {
         // By position and with a copy: a callback may cause a configuration that adds dependents.
         for (std::size_t i = 0; i < data.dependentProperties().size(); ++i) {

@@ -97,7 +97,9 @@ PropertyController::PropertyChanges PropertyController::PropertyData::publish(Ac
 PropertyController::PropertyChanges
 PropertyController::PropertyData::publishValue(Action action, std::size_t index) {
     const Publishing publishing(publishingFlags_, kValueBit);
-    notify({.value = publishing.isOutermost(kValueBit), .action = action, .index = index});
+    if (publishing.isOutermost(kValueBit)) {
+        notifyValue(action, index);
+    }
     return {};
 }
 
@@ -215,8 +217,17 @@ bool PropertyController::PropertyData::storeState(PropertyState&& state) const n
     return true;
 }
 
+void PropertyController::PropertyData::notifyValue(Action action, std::size_t index) const {
+    subscriptions_.forEach([action, index](const auto& subscriber) {
+        subscriber.callbacks->value.callIfSet(action, index);
+    });
+}
+
 void PropertyController::PropertyData::notify(const Notification& notification) const {
-    if (!notification.value && !notification.state && !notification.visibility) {
+    if (!notification.state && !notification.visibility) {
+        if (notification.value) {
+            notifyValue(notification.action, notification.index);
+        }
         return;
     }
     // A subscriber that ends its subscription in one callback hears nothing more.

@@ -58,13 +58,13 @@ private:
 
     /// As a call, but does nothing when nothing, or an empty function, is held.
     void callIfSet(Action action, std::size_t index) const {
-        if (const auto* const plain = std::get_if<Plain>(&callback_)) {
-            if (*plain) {
-                (*plain)();
-            }
-        } else if (const auto* const detailed = std::get_if<Detailed>(&callback_)) {
-            if (*detailed) {
+        if (const auto* const detailed = std::get_if<Detailed>(&callback_)) {
+            if (*detailed) [[likely]] {
                 (*detailed)(action, index);
+            }
+        } else if (const auto* const plain = std::get_if<Plain>(&callback_)) {
+            if (*plain) [[likely]] {
+                (*plain)();
             }
         }
     }

@@ -81,6 +81,7 @@ private:
     [[nodiscard]] bool updateCachedVisibility() const;
     [[nodiscard]] bool storeVisibility(bool visible) const noexcept;
     [[nodiscard]] bool storeState(PropertyState&& state) const noexcept;
+    void notifyValue(Action action, std::size_t index) const;
     void notify(const Notification& notification) const;
 
     // The order of the fields up to the visibility is fixed.

@@ -24,8 +24,8 @@ class SubscriptionList {
 public:
     struct Subscriber {
         Id id;
-        std::optional<Callbacks> callbacks; // none only if erased
         bool erased = false;
+        std::optional<Callbacks> callbacks; // none only if erased
     };
 
     SubscriptionList() noexcept = default;
@@ -51,7 +51,8 @@ public:
     void insert(Id id, Callbacks&& callbacks) {
         Block& block = blockWithRoom();
         assert(block.size == 0 || block.back().id < id);
-        block.append(Subscriber{.id = id, .callbacks = std::move(callbacks)});
+        new (block.end()) Subscriber{.id = id, .callbacks = std::move(callbacks)};
+        ++block.size;
         ++first_->kept;
     }
 
@@ -86,6 +87,7 @@ public:
         }
         const Walk walk(*first_);
         for (Block* block = first_; block != nullptr; block = block->next) {
+            // The size may grow meanwhile.
             for (std::uint32_t i = 0; i < block->size; ++i) {
                 const Subscriber& subscriber = block->begin()[i];
                 if (!subscriber.erased) {
@@ -105,7 +107,7 @@ private:
         void operator()(Block* first) const noexcept {
             while (first != nullptr) {
                 Block* const block = std::exchange(first, first->next);
-                std::destroy_n(block->begin(), block->size);
+                std::destroy(block->begin(), block->end());
                 block->~Block();
                 ::operator delete(block);
             }
@@ -125,18 +127,8 @@ private:
         [[nodiscard]] Subscriber* begin() noexcept {
             return reinterpret_cast<Subscriber*>(this + 1);
         }
+        [[nodiscard]] Subscriber* end() noexcept { return begin() + size; }
         [[nodiscard]] Subscriber& back() noexcept { return begin()[size - 1]; }
-
-        template <class Source>
-        void append(Source&& subscriber) {
-            new (begin() + size) Subscriber(std::forward<Source>(subscriber));
-            ++size;
-        }
-
-        void removeLast() noexcept {
-            std::destroy_at(&back());
-            --size;
-        }
 
         // The following concern the whole list, of which this is the first block.
 
@@ -157,7 +149,8 @@ private:
         /// Closes the gaps when they are at the end, or more than the subscribers.
         void removeErased() noexcept {
             while (last->size != 0 && last->back().erased) {
-                last->removeLast();
+                std::destroy_at(&last->back());
+                --last->size;
             }
             std::size_t all = 0;
             for (const Block* block = this; block != nullptr; block = block->next) {
@@ -167,10 +160,9 @@ private:
                 return;
             }
             for (Block* block = this; block != nullptr; block = block->next) {
-                Subscriber* const end = block->begin() + block->size;
-                Subscriber* const keptEnd =
-                    std::remove_if(block->begin(), end, [](const auto& s) { return s.erased; });
-                std::destroy(keptEnd, end);
+                Subscriber* const keptEnd = std::remove_if(block->begin(), block->end(),
+                                                           [](const auto& s) { return s.erased; });
+                std::destroy(keptEnd, block->end());
                 block->size = static_cast<std::uint32_t>(keptEnd - block->begin());
             }
         }
@@ -193,16 +185,10 @@ private:
         Walk(const Walk&) = delete;
         Walk& operator=(const Walk&) = delete;
         ~Walk() {
-            if (first_.walks != 1 || !first_.hasErased) {
-                --first_.walks;
-                return;
-            }
-            first_.destroyErased();
-            --first_.walks;
-            if (first_.isAbandoned) {
-                Destroy()(&first_);
+            if (first_.hasErased && first_.walks == 1) {
+                clean(first_);
             } else {
-                first_.removeErased();
+                --first_.walks;
             }
         }
 
@@ -210,15 +196,25 @@ private:
         Block& first_;
     };
 
+    /// Ends the outermost walk over a list from which something was erased.
+    static void clean(Block& first) noexcept {
+        first.destroyErased();
+        --first.walks;
+        if (first.isAbandoned) {
+            Destroy()(&first);
+        } else {
+            first.removeErased();
+        }
+    }
+
     [[nodiscard]] Subscriber* find(Id id) const noexcept {
         for (Block* block = first_; block != nullptr; block = block->next) {
             if (block->size != 0 && block->back().id >= id) {
-                Subscriber* const end = block->begin() + block->size;
                 // Who came last is often the first to go.
                 Subscriber* const found =
-                    block->back().id == id
-                        ? end - 1
-                        : std::ranges::lower_bound(block->begin(), end, id, {}, &Subscriber::id);
+                    block->back().id == id ? &block->back()
+                                           : std::ranges::lower_bound(block->begin(), block->end(),
+                                                                      id, {}, &Subscriber::id);
                 return found->id == id ? found : nullptr;
             }
         }
@@ -246,13 +242,15 @@ private:
     [[nodiscard]] Owner joined(std::size_t capacity) const {
         Owner result = Block::make(capacity);
         for (Block* block = first_; block != nullptr; block = block->next) {
-            for (std::uint32_t i = 0; i < block->size; ++i) {
-                if (!block->begin()[i].erased) {
-                    result->append(static_cast<Reference>(block->begin()[i]));
+            for (Subscriber* subscriber = block->begin(); subscriber != block->end();
+                 ++subscriber) {
+                if (!subscriber->erased) {
+                    new (result->end()) Subscriber(static_cast<Reference>(*subscriber));
+                    ++result->size;
+                    ++result->kept;
                 }
             }
         }
-        result->kept = result->size;
         return result;
     }
 
@@ -263,8 +261,9 @@ private:
             return;
         }
         for (Block* block = first; block != nullptr; block = block->next) {
-            for (std::uint32_t i = 0; i < block->size; ++i) {
-                block->begin()[i].erased = true;
+            for (Subscriber* subscriber = block->begin(); subscriber != block->end();
+                 ++subscriber) {
+                subscriber->erased = true;
             }
         }
         first->hasErased = true;
