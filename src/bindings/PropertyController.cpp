@@ -54,22 +54,15 @@ bool PropertyController::propertyVisible(const PropertyId& property) const {
 void PropertyController::publish(const PropertyId& property, Action action,
                                  std::size_t index) const {
     if (const auto data = properties_.find(property)) {
-        publishGlobally([&](PropertyChanges& changes) {
-            data->publish(action, index, changes);
-            changes |= updateDependentProperties(*data);
-        });
-        raisePropertyNotifications(*data);
+        publishWithDependents(
+            *data, [&](PropertyChanges& changes) { data->publish(action, index, changes); });
     }
 }
 
 void PropertyController::publishValue(const PropertyId& property, Action action,
                                       std::size_t index) const {
     if (const auto data = properties_.find(property)) {
-        publishGlobally([&](PropertyChanges& changes) {
-            static_cast<void>(data->publishValue(action, index)); // changes nothing
-            changes |= updateDependentProperties(*data);
-        });
-        raisePropertyNotifications(*data);
+        publishWithDependents(*data, [&](PropertyChanges&) { data->publishValue(action, index); });
     }
 }
 
@@ -223,12 +216,21 @@ void PropertyController::publishGlobally(Publication&& publication) const {
     }
 }
 
+template <class Publication>
+void PropertyController::publishWithDependents(const PropertyData& data,
+                                               Publication&& publication) const {
+    publishGlobally([&](PropertyChanges& changes) {
+        publication(changes);
+        if (!data.dependentProperties().empty()) {
+            changes |= updateDependentProperties(data);
+        }
+    });
+    raisePropertyNotifications(data);
+}
+
 PropertyController::PropertyChanges
 PropertyController::updateDependentProperties(const PropertyData& data) const {
     PropertyChanges changes;
-    if (data.dependentProperties().empty()) {
-        return changes;
-    }
     try {
         // By position and with a copy: a callback may cause a configuration that adds dependents.
         for (std::size_t i = 0; i < data.dependentProperties().size(); ++i) {

@@ -224,6 +224,8 @@ private:
 
     template <class Publication>
     void publishGlobally(Publication&& publication) const;
+    template <class Publication>
+    void publishWithDependents(const PropertyData& data, Publication&& publication) const;
     PropertyChanges updateDependentProperties(const PropertyData& data) const;
     void publishGlobalChanges(const PropertyChanges& changes) const;
     void publishPropertyErrorCount() const;
