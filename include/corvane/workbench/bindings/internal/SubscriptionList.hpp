@@ -68,14 +68,14 @@ public:
             first_->hasErased = true;
             return;
         }
-        // Destroyed when all else is done, for the destructors may come back here.
-        const Callbacks erased = std::move(*subscriber->callbacks);
-        subscriber->callbacks.reset();
+        // The callbacks go when all else is done, for their destructors may come back here.
         if (empty()) {
             release();
-        } else {
-            first_->removeErased();
+            return;
         }
+        const Callbacks erased = std::move(*subscriber->callbacks);
+        subscriber->callbacks.reset();
+        first_->removeErased();
     }
 
     /// Calls visit(subscriber) for each one in ascending order of ids, those included that are
