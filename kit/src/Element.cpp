@@ -34,7 +34,7 @@ void Element::configureProperties(PropertyConfigurationContext& context) {
 }
 
 void Element::load(utils::json::decoder::Object& object, config::Context& context) {
-    internal::LoadingForm(subject()).load(object, context);
+    internal::LoadingForm(subject(), context).load(object);
 }
 
 void Element::save(utils::json::encoder::Object& object) const {

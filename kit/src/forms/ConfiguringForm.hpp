@@ -1,5 +1,6 @@
 #pragma once
 
+#include <corvane/workbench/bindings/PropertyIdRange.hpp>
 #include <corvane/workbench/kit/Form.hpp>
 
 #include <vector>
@@ -21,7 +22,7 @@ public:
 
 private:
     void take(Description& description) override;
-    void configureDisplayName(const std::vector<bindings::PropertyId>& dependencies);
+    void configureDisplayName(bindings::PropertyIdRange dependencies);
 
     Context& context_;
     /// The first setting of a row, which names it unless it has a display name of its own.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace corvane::workbench::kit {
@@ -10,15 +11,16 @@ class Text {
 public:
     constexpr Text() noexcept = default;
     // NOLINTNEXTLINE(google-explicit-constructor): literals are written as they are
-    consteval Text(const char* literal) : text_(literal) {}
+    consteval Text(const char* literal) : text_(literal), size_(std::string_view(literal).size()) {}
 
     [[nodiscard]] constexpr const char* data() const noexcept { return text_; }
-    [[nodiscard]] constexpr bool empty() const noexcept { return *text_ == '\0'; }
+    [[nodiscard]] constexpr bool empty() const noexcept { return size_ == 0; }
     // NOLINTNEXTLINE(google-explicit-constructor): is one
-    constexpr operator std::string_view() const noexcept { return text_; }
+    constexpr operator std::string_view() const noexcept { return {text_, size_}; }
 
 private:
     const char* text_ = "";
+    std::size_t size_ = 0;
 };
 
 } // namespace corvane::workbench::kit
