@@ -8,6 +8,8 @@
 #include "forms/MemberForm.hpp"
 #include "forms/SavingForm.hpp"
 
+#include <utility>
+
 namespace corvane::workbench::kit {
 
 const internal::Subject::Type Element::kSubjectType{
@@ -26,10 +28,8 @@ void Element::forEachEditableProperty(
 }
 
 void Element::configureProperties(PropertyConfigurationContext& context) {
-    internal::ConfiguringForm form(subject(), context);
-    form.configure();
-    if (const bindings::PropertyId trigger = form.memberTrigger()) {
-        memberDependencies_ = subscribe(trigger, {.value = [this] { publishElementMembers(); }});
+    for (auto& trigger : internal::ConfiguringForm(subject(), context).configure()) {
+        triggers_.push_back(subscribe(trigger.property, {.value = std::move(trigger.action)}));
     }
 }
 

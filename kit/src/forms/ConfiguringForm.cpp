@@ -4,6 +4,8 @@
 #include <corvane/workbench/skill/SubElement.hpp>
 
 #include <iterator>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace corvane::workbench::kit::internal {
@@ -55,18 +57,23 @@ std::function<State()> stateOf(Description& description) {
 
 } // namespace
 
-void ConfiguringForm::configure() {
+std::vector<ConfiguringForm::Trigger> ConfiguringForm::configure() {
     fillIn();
     if (subject().isRow() && !hasDisplayName_ && first_) {
         configureDisplayName({&first_, &first_ + 1});
     }
     if (!memberDependencies_.empty()) {
-        context_.configure(memberTrigger(), {.valueDependencies = memberDependencies_});
+        addTrigger(".members", memberDependencies_,
+                   [subject = subject()] { subject.type->publishMembers(*subject.controller); });
     }
+    return std::move(triggers_);
 }
 
-bindings::PropertyId ConfiguringForm::memberTrigger() const noexcept {
-    return memberDependencies_.empty() ? bindings::PropertyId() : nameId(".members");
+void ConfiguringForm::addTrigger(const std::string& name, bindings::PropertyIdRange dependencies,
+                                 std::function<void()> action) {
+    const bindings::PropertyId property = nameId(name);
+    context_.configure(property, {.valueDependencies = dependencies});
+    triggers_.push_back({.property = property, .action = std::move(action)});
 }
 
 void ConfiguringForm::take(Description& description) {
@@ -111,6 +118,13 @@ void ConfiguringForm::take(Description& description) {
                             .visibilityDependencies = description.behaviour->visibilityDependencies,
                             .raisedProperties = description.behaviour->raisedProperties},
                            description.behaviour->classified);
+    }
+    std::size_t index = 0;
+    for (std::function<void()>& action : description.behaviour->actions) {
+        // No setting has a dot in its name.
+        addTrigger(".then." + std::string(std::string_view(description.name)) + '.' +
+                       std::to_string(index++),
+                   {&description.property, &description.property + 1}, std::move(action));
     }
 }
 

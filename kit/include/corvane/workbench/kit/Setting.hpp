@@ -197,12 +197,13 @@ public:
         }
         return *this;
     }
-    /// What is done after a change by the user, or by changed(), when everybody has heard of it.
+    /// What is done after a change by the user, or by changed(), when everybody has heard of it. A
+    /// reference and a list of rows also change otherwise: for them it is done after each change,
+    /// when their subscribers have heard of it.
     template <std::invocable Action>
-    Setting then(Action action) const
-        requires(!kIsReference && !kIsRows)
-    {
-        if (purpose() == internal::Purpose::Change) {
+    Setting then(Action action) const {
+        if (purpose() ==
+            (kChangesByItself<T> ? internal::Purpose::Configure : internal::Purpose::Change)) {
             description().behaviour->actions.emplace_back(std::move(action));
         }
         return *this;
