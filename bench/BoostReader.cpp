@@ -21,5 +21,13 @@ const Reader kReader("boost", [](std::string_view text) -> std::unique_ptr<ReadD
     return std::make_unique<BoostDocument>(boost::json::parse(text));
 });
 
+/// Gives the nearest doubles, as the others do.
+const Reader
+    kPreciseReader("boost precise", [](std::string_view text) -> std::unique_ptr<ReadDocument> {
+        boost::json::parse_options options;
+        options.numbers = boost::json::number_precision::precise;
+        return std::make_unique<BoostDocument>(boost::json::parse(text, {}, options));
+    });
+
 } // namespace
 } // namespace corvane::bench

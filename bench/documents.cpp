@@ -1,5 +1,6 @@
 #include "documents.hpp"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -338,12 +339,6 @@ std::string outlines() {
     return std::move(text).take();
 }
 
-} // namespace
-
-std::vector<Document> generatedDocuments() {
-    return {{"messages", messages()}, {"catalogue", catalogue()}, {"outlines", outlines()}};
-}
-
 Document documentFromFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
@@ -351,6 +346,49 @@ Document documentFromFile(const std::string& path) {
     }
     return {std::filesystem::path(path).stem().string(),
             std::string(std::istreambuf_iterator<char>(file), {})};
+}
+
+/// Strings of about 180 bytes, each of which begins at another place of the text.
+std::string strings(std::string_view text) {
+    std::string line;
+    while (line.size() < 180) {
+        line += text;
+    }
+    TextBuilder builder(0);
+    builder.open('[');
+    for (int number = 0; number < 1000; ++number) {
+        builder.next();
+        builder.string(std::to_string(number % 13) + line);
+    }
+    builder.close(']');
+    return std::move(builder).take();
+}
+
+} // namespace
+
+std::vector<Document> documentsFrom(const std::vector<std::string>& files) {
+    if (files.empty()) {
+        return {{"messages", messages()}, {"catalogue", catalogue()}, {"outlines", outlines()}};
+    }
+    std::vector<Document> documents;
+    std::ranges::transform(files, std::back_inserter(documents), documentFromFile);
+    return documents;
+}
+
+std::vector<Document> textDocuments() {
+    return {
+        {"Japanese", strings("\xE7\xAC\xAC\xE4\xB8\x80\xE3\x83\x9D\xE3\x83\xB3\xE3\x83\x97\xE5\xA0"
+                             "\xB4\xE3\x81\xAE\xE6\xB0\xB4\xE4\xBD\x8D\xE3\x80\x81")},
+        {"Greek", strings("\xCE\xB1\xCE\xBD\xCF\x84\xCE\xBB\xCE\xB9\xCE\xBF\xCF\x83\xCF\x84\xCE\xAC"
+                          "\xCF\x83\xCE\xB9\xCE\xBF ")},
+        {"German", strings("F\xC3\xBCllstandsmessger\xC3\xA4t der Pumpstation ")},
+        {"emoji", strings("\xF0\x9F\x92\xA7\xF0\x9F\x94\xA7\xF0\x9F\x9A\xB0")},
+    };
+}
+
+Document smallDocument() {
+    return {"small", R"({"name":"pump 3","enabled":true,"interval":"250ms",)"
+                     R"("limits":[0,12.5,100],"address":{"unit":7,"line":2}})"};
 }
 
 } // namespace corvane::bench

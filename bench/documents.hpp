@@ -12,11 +12,16 @@ struct Document {
     std::string text;
 };
 
-/// Three generated texts, the same in every run: "messages" (many small objects and strings, partly
-/// not ASCII), "catalogue" (many integers and short names), "outlines" (many doubles).
-[[nodiscard]] std::vector<Document> generatedDocuments();
+/// The files' documents, each named after its file; without files three generated ones, the same in
+/// every run: "messages" (many small objects and strings, partly not ASCII), "catalogue" (many
+/// integers and short names), "outlines" (many doubles). Throws std::runtime_error if a file cannot
+/// be read.
+[[nodiscard]] std::vector<Document> documentsFrom(const std::vector<std::string>& files);
 
-/// A document from a file, named after it. Throws std::runtime_error if it cannot be read.
-[[nodiscard]] Document documentFromFile(const std::string& path);
+/// Strings outside ASCII, as long as a line of a message.
+[[nodiscard]] std::vector<Document> textDocuments();
+
+/// About 100 bytes.
+[[nodiscard]] Document smallDocument();
 
 } // namespace corvane::bench

@@ -66,13 +66,7 @@ void operator delete(void* memory, const std::nothrow_t&) noexcept {
 int main(int argc, char** argv) {
     using namespace corvane::bench;
     try {
-        std::vector<Document> documents;
-        for (int argument = 1; argument < argc; ++argument) {
-            documents.push_back(documentFromFile(argv[argument]));
-        }
-        if (documents.empty()) {
-            documents = generatedDocuments();
-        }
+        const auto documents = documentsFrom({argv + 1, argv + argc});
         std::cout << std::format("{:<16}{:<12}{:>12}{:>12}{:>12}\n", "document", "library", "bytes",
                                  "peak", "kept");
         for (const Document& document : documents) {

@@ -1,6 +1,7 @@
 # Settings that every target of this project shares.
 include_guard(GLOBAL)
 include(GNUInstallDirs)
+include(CorvaneAddSkill)
 
 set(CMAKE_CXX_EXTENSIONS OFF)
 if(NOT DEFINED CMAKE_CXX_STANDARD)
@@ -41,19 +42,20 @@ endif()
 
 # Warnings belong to our own targets, not to those of the libraries we use.
 function(corvane_set_warnings target)
-    if(MSVC)
-        # Exported classes have members of the standard library: all sides share one runtime.
-        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- /wd4251 /wd4275)
-        if(CORVANE_WARNINGS_AS_ERRORS)
-            target_compile_options(${target} PRIVATE /WX)
-        endif()
-    else()
-        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion
-                               -Wshadow -Wnon-virtual-dtor)
-        if(CORVANE_WARNINGS_AS_ERRORS)
-            target_compile_options(${target} PRIVATE -Werror)
-        endif()
+    corvane_add_warnings(${target})
+    if(CORVANE_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX,-Werror>)
     endif()
+endfunction()
+
+# While the version is 0.x, only the same minor version is compatible.
+function(corvane_set_version target)
+    if(PROJECT_VERSION_MAJOR EQUAL 0)
+        set(compatible 0.${PROJECT_VERSION_MINOR})
+    else()
+        set(compatible ${PROJECT_VERSION_MAJOR})
+    endif()
+    set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${compatible})
 endfunction()
 
 # Templates of the standard library that a library uses would otherwise be exported along with its
@@ -67,12 +69,9 @@ function(corvane_export_only_own_symbols target)
 endfunction()
 
 # Windows has no search path for libraries but the program's own folder.
-if(MINGW AND CMAKE_CROSSCOMPILING)
-    foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${name}"
-                        OUTPUT_VARIABLE place OUTPUT_STRIP_TRAILING_WHITESPACE)
-        file(COPY "${place}" DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" FOLLOW_SYMLINK_CHAIN)
-    endforeach()
+corvane_compiler_libraries(compiler_libraries)
+if(compiler_libraries)
+    file(COPY ${compiler_libraries} DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 endif()
 if(WIN32)
     set(CMAKE_SHARED_LIBRARY_PREFIX "") # CorvaneUtils.dll with every compiler

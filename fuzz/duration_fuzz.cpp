@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!duration) {
         return 0;
     }
-    promise(!text.empty() && text.front() != ' ' && text.back() != ' ', "no blank at the ends");
+    promise(!text.empty() && text.front() != ' ' && text.back() != ' ', "no space at the ends");
     promise(!duration->toDisplayText().empty(), "there is a text for people");
     const std::optional<Duration> again = Duration::parse(duration->toString());
     promise(again == (duration->value() == 0.0 ? Duration() : *duration),

@@ -104,17 +104,19 @@ using Make = std::unique_ptr<skill::Element> (*)();
 
 Cost costOf(Make make, const std::string& text) {
     NoReferences context;
-    corvane::utils::io::MemoryInputStream<char> stream(text);
-    decoder::Document document(stream);
     std::vector<std::unique_ptr<skill::Element>> elements;
     elements.reserve(kElements);
     Cost cost{};
 
     const auto bytesBefore = static_cast<double>(bytesInUse());
     StopWatch watch;
-    for (decoder::Value& value : document.root().asArray()) {
-        decoder::Object object = value.asObject();
-        ElementAccess::load(*elements.emplace_back(make()), object, context);
+    {
+        corvane::utils::io::MemoryInputStream<char> stream(text);
+        decoder::Document document(stream);
+        for (decoder::Value& value : document.root().asArray()) {
+            decoder::Object object = value.asObject();
+            ElementAccess::load(*elements.emplace_back(make()), object, context);
+        }
     }
     cost.load = watch.lap();
     cost.loadedBytes = static_cast<double>(bytesInUse()) - bytesBefore;

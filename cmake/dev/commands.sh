@@ -121,18 +121,3 @@ run_docs() {
     mkdir -p build/docs
     doxygen docs/Doxyfile
 }
-
-# A project of its own finds the installed package, as a skill author's would.
-run_package() {
-    local place=build/package
-    build tools
-    rm -rf "$place"
-    cmake --install build/tools --prefix "$place/installed" >/dev/null
-    cmake -S tests/package -B "$place/build" -G Ninja -DCMAKE_PREFIX_PATH="$checkout/$place/installed" \
-        -DCMAKE_BUILD_TYPE=Release >/dev/null
-    cmake --build "$place/build"
-    "$place/build/consumer"
-    cmake -S examples/first-skill -B "$place/first-skill" -G Ninja \
-        -DCMAKE_PREFIX_PATH="$checkout/$place/installed" -DCMAKE_BUILD_TYPE=Release >/dev/null
-    cmake --build "$place/first-skill"
-}

@@ -11,7 +11,8 @@ fail() {
 # header (by its suffix), an absolute path, or the start of a file name below /usr/lib (behind "@").
 needs_of() {
     local base="cmake:cmake ninja-build:ninja ccache:ccache
-        libexpected-dev:tl/expected.hpp libicu-dev:unicode/ucol.h libcxxopts-dev:cxxopts.hpp"
+        libexpected-dev:tl/expected.hpp libfast-float-dev:fast_float/fast_float.h
+        libicu-dev:unicode/ucol.h libcxxopts-dev:cxxopts.hpp"
     local tests="libgtest-dev:gtest/gtest.h libgmock-dev:gmock/gmock.h
         nlohmann-json3-dev:nlohmann/json.hpp libsimdjson-dev:simdjson.h"
     case $1 in
@@ -32,7 +33,11 @@ needs_of() {
         coverage) echo "$base $tests gcovr:gcovr" ;;
         lint) echo "clang-format:clang-format shellcheck:shellcheck" ;;
         docs) echo "doxygen:doxygen graphviz:dot" ;;
-        package) echo "$base" ;;
+        package)
+            echo "$base pkgconf:pkg-config dpkg-dev:dpkg-shlibdeps file:file
+                g++-mingw-w64-x86-64-posix:x86_64-w64-mingw32-g++-posix wine64:/usr/lib/wine/wine64
+                wine:wine googletest:/usr/src/googletest/CMakeLists.txt"
+            ;;
     esac
 }
 

@@ -9,13 +9,14 @@ set(CMAKE_CROSSCOMPILING_EMULATOR wine)
 # Header-only packages come through a folder of links: the system's include folder would bring the
 # host's C library along.
 set(links "${CMAKE_BINARY_DIR}/header-links")
-foreach(header IN ITEMS tl cxxopts.hpp)
+foreach(header IN ITEMS tl cxxopts.hpp fast_float)
     if(EXISTS "/usr/include/${header}" AND NOT EXISTS "${links}/include/${header}")
         file(MAKE_DIRECTORY "${links}/include")
         file(CREATE_LINK "/usr/include/${header}" "${links}/include/${header}" SYMBOLIC)
     endif()
 endforeach()
-foreach(package IN ITEMS tl-expected:tl::expected cxxopts:cxxopts::cxxopts)
+foreach(package IN ITEMS tl-expected:tl::expected cxxopts:cxxopts::cxxopts
+        FastFloat:FastFloat::fast_float)
     string(REGEX MATCH "^([^:]+):(.*)$" _ "${package}")
     string(TOLOWER "${CMAKE_MATCH_1}" name)
     file(WRITE "${links}/lib/cmake/${name}/${name}-config.cmake"
@@ -25,7 +26,9 @@ foreach(package IN ITEMS tl-expected:tl::expected cxxopts:cxxopts::cxxopts)
 endif()\n")
 endforeach()
 
-set(CMAKE_FIND_ROOT_PATH "${links}" /usr/x86_64-w64-mingw32)
+# Packages for Windows lie where the project says, not in the system's folders.
+string(REPLACE ":" ";" prefixes "$ENV{CMAKE_PREFIX_PATH}")
+set(CMAKE_FIND_ROOT_PATH "${links}" /usr/x86_64-w64-mingw32 ${CMAKE_PREFIX_PATH} ${prefixes})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

@@ -8,6 +8,8 @@
 #include "forms/MemberForm.hpp"
 #include "forms/SavingForm.hpp"
 
+#include <utility>
+
 namespace corvane::workbench::kit {
 
 const internal::Subject::Type Element::kSubjectType{
@@ -26,15 +28,13 @@ void Element::forEachEditableProperty(
 }
 
 void Element::configureProperties(PropertyConfigurationContext& context) {
-    internal::ConfiguringForm form(subject(), context);
-    form.configure();
-    if (const bindings::PropertyId trigger = form.memberTrigger()) {
-        memberDependencies_ = subscribe(trigger, {.value = [this] { publishElementMembers(); }});
+    for (auto& trigger : internal::ConfiguringForm(subject(), context).configure()) {
+        triggers_.push_back(subscribe(trigger.property, {.value = std::move(trigger.action)}));
     }
 }
 
 void Element::load(utils::json::decoder::Object& object, config::Context& context) {
-    internal::LoadingForm(subject()).load(object, context);
+    internal::LoadingForm(subject(), context).load(object);
 }
 
 void Element::save(utils::json::encoder::Object& object) const {

@@ -1,24 +1,17 @@
 #include <corvane/workbench/kit/Form.hpp>
 
+#include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace corvane::workbench::kit {
 
 namespace internal {
 
-void Description::clear() {
-    subject = Subject::Setting;
-    name = displayName = unit = toolTip = Text();
-    property = bindings::PropertyId();
-    field = Field();
-    rows = nullptr;
+void Behaviour::clear() {
+    unit = toolTip = Text();
     classified = {};
-    isReadOnly = false;
-    member = nullptr;
-    access = model::Attribute::Access::Undefined;
-    dataType = {};
-    directions = {};
     rules.clear();
     visibility = nullptr;
     derivedText = nullptr;
@@ -29,28 +22,34 @@ void Description::clear() {
     raisedProperties.clear();
     actions.clear();
     proposal = nullptr;
+    isReadOnly = isRequired = isOptional = false;
+}
+
+void Description::begin(Subject newSubject, Text newName, Text newDisplayName) {
+    subject = newSubject;
     saved = Saved::Always;
     isVisible = true;
     isInitial = false;
     hasInitialValue = false;
-    isRequired = false;
-    isOptional = false;
     applies = true;
+    name = newName;
+    displayName = newDisplayName;
+    field = Field();
+    rows = nullptr;
+    member = nullptr;
+    dataType = {};
+    access = model::Attribute::Access::Undefined;
+    directions = {};
+    if (behaviour) {
+        property = bindings::PropertyId();
+        behaviour->clear();
+    }
 }
 
-Handle::Handle(Form& form) noexcept
-    : form_(&form), serial_(form.serial_), property_(form.current_.property) {}
-
-Description& Handle::description() const {
-    return form_->described(serial_);
-}
-
-Purpose Handle::purpose() const noexcept {
-    return form_->purpose_;
-}
-
-const bindings::PropertyController& Handle::owner() const noexcept {
-    return form_->owner();
+void Handle::throwForAnother() const {
+    throw std::logic_error("what is said about “" +
+                           std::string(std::string_view(description_->name)) +
+                           "” is meant for something that was described before it");
 }
 
 } // namespace internal
@@ -158,53 +157,48 @@ void Form::fillIn() {
 }
 
 void Form::handOver() {
-    if (isDescribing_) {
-        isDescribing_ = false;
+    if (current_.serial != 0) {
+        current_.serial = 0;
         take(current_);
     }
 }
 
 void Form::begin(Subject subject, Text name, Text displayName) {
     handOver();
-    current_.clear();
-    current_.subject = subject;
-    current_.name = name;
-    current_.displayName = displayName;
-    isDescribing_ = true;
-    ++serial_;
+    current_.begin(subject, name, displayName);
+    current_.serial = ++count_;
+}
+
+void Form::beginSetting(Text name, Text displayName, const internal::Field& field) {
+    begin(Subject::Setting, name, displayName);
+    current_.field = field;
 }
 
 Derived Form::beginDerived(Text name, Text displayName) {
     begin(Subject::Derived, name, displayName);
     current_.property = internal::nameId(name);
-    return Derived(*this);
+    return Derived(current_);
 }
 
 Derived Form::beginDisplayName() {
     begin(Subject::DisplayName, {}, {});
-    return Derived(*this);
+    return Derived(current_);
 }
 
 Member Form::beginMember(Subject subject, Text name, const void* member) {
     begin(subject, name, {});
     current_.member = member;
-    return Member(*this);
+    return Member(current_);
 }
 
 void Form::keepChoices(std::span<const Text> texts) {
     // The list ends with the statement that describes the choice; rules have no need of it.
-    if (purpose_ != internal::Purpose::Configure) {
-        current_.field.choices = choices_.emplace_back(texts.begin(), texts.end());
+    if (current_.purpose != internal::Purpose::Configure) {
+        std::pmr::polymorphic_allocator<Text> allocator(&memory_);
+        Text* const kept = allocator.allocate(texts.size());
+        std::ranges::uninitialized_copy(texts, std::span(kept, texts.size()));
+        current_.field.choices = {kept, texts.size()};
     }
-}
-
-internal::Description& Form::described(std::uint32_t serial) {
-    if (!isDescribing_ || serial != serial_) {
-        throw std::logic_error("what is said about “" +
-                               std::string(std::string_view(current_.name)) +
-                               "” is meant for something that was described before it");
-    }
-    return current_;
 }
 
 } // namespace corvane::workbench::kit

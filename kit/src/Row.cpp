@@ -7,6 +7,7 @@
 #include <corvane/workbench/kit/internal/RowList.hpp>
 
 #include <stdexcept>
+#include <utility>
 
 namespace corvane::workbench::kit {
 
@@ -27,7 +28,9 @@ void Row::forEachEditableProperty(
 }
 
 void Row::configureProperties(PropertyConfigurationContext& context) {
-    internal::ConfiguringForm(subject(), context).configure();
+    for (auto& trigger : internal::ConfiguringForm(subject(), context).configure()) {
+        triggers_.push_back(subscribe(trigger.property, {.value = std::move(trigger.action)}));
+    }
 }
 
 // A description changes nothing; it is not const so that editors can be made from it.

@@ -29,11 +29,18 @@ Row& RowList::insertRow(std::size_t index) {
         throwNoSuchRow();
     }
     std::unique_ptr<Row> made = makeRow();
-    made->list_ = this;
     InitialForm(subjectOf(*made)).makeDefault();
     if (owner_.controller != nullptr) {
         ProposingForm(owner_, *this).propose(*made, index);
     }
+    return insertRow(index, std::move(made));
+}
+
+Row& RowList::insertRow(std::size_t index, std::unique_ptr<Row> made) {
+    if (index > rows_.size()) {
+        throwNoSuchRow();
+    }
+    made->list_ = this;
     const auto place = std::next(rows_.begin(), static_cast<std::ptrdiff_t>(index));
     Row& row = **rows_.insert(place, std::move(made));
     if (isLinked()) {

@@ -25,7 +25,7 @@ class RowsKind final : public SettingKind {
     void read(const Field& field, utils::json::decoder::Value& value,
               config::Context& context) const override {
         for (utils::json::decoder::Value& row : value.asArray()) {
-            LoadingForm(rows(field).appendRow()).load(row, context);
+            LoadingForm(rows(field).appendRow(), context).load(row);
         }
     }
     void write(const Field& field, utils::json::encoder::Value& value) const override {

@@ -48,18 +48,6 @@ State outOfRange(const char* message, std::uint64_t lowest, std::uint64_t highes
     return outOfRangeText(message, lowest, highest);
 }
 
-std::function<State()> requiredRule(const Field& field, Text message) {
-    struct Rule {
-        const SettingKind* kind;
-        void* address;
-        const char* message;
-        State operator()() const {
-            return kind->isEmpty({.address = address}) ? broken(message) : State();
-        }
-    };
-    return Rule{field.kind, field.address, message.data()};
-}
-
 std::function<State()> classRule(const model::internal::BasicElementReference& reference,
                                  const skill::Element::Class& elementClass, const char* message) {
     return [&reference, &elementClass, message] {

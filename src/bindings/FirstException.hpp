@@ -5,7 +5,8 @@
 
 namespace corvane::workbench::bindings::internal {
 
-/// Goes on after an exception where the books must be brought in order, and reports it afterwards.
+/// Runs steps that must all be taken, whichever of them throws, and reports the first exception
+/// afterwards.
 class FirstException {
 public:
     /// Runs a step and keeps its exception unless one is kept already. Returns whether the step

@@ -19,10 +19,8 @@ PropertyChangedCallback::operator bool() const {
 
 void PropertyChangedCallback::operator()(Action action, std::size_t index) const {
     std::visit(Overloaded{[](std::nullptr_t) { throw std::bad_function_call(); },
-                          [](const std::function<void()>& function) { function(); },
-                          [&](const std::function<void(Action, std::size_t)>& function) {
-                              function(action, index);
-                          }},
+                          [](const Plain& function) { function(); },
+                          [&](const Detailed& function) { function(action, index); }},
                callback_);
 }
 

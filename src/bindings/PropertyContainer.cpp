@@ -50,10 +50,11 @@ void PropertyContainer::setEnclosingPropertyContainer(
     }
     assert(!container.isAtOrBelow(*this) && "a container cannot be linked below itself");
 
-    internal::FirstException failure;
-    // A container that configures itself lazily does so here, before its count is used.
-    failure.run([&] { static_cast<void>(localPropertyErrorCount()); });
+    // A container that configures itself lazily does so here, before its count is used and before
+    // anything has changed.
+    static_cast<void>(localPropertyErrorCount());
 
+    internal::FirstException failure;
     PropertyContainer* const former = std::exchange(enclosingPropertyContainer_, &container);
     const std::uint64_t unpassed = std::exchange(unpassedDifference_, 0);
     if (former != nullptr && !options.keepOldContainerCount) {
@@ -218,8 +219,7 @@ void PropertyContainer::unsubscribeFromPropertyErrorCount(std::uint64_t id) noex
 }
 
 void PropertyContainer::publishPropertyErrorCount() const {
-    errorCountSubscriptions_.forEach(
-        [](std::uint64_t, const std::function<void()>& callback) { callback(); });
+    errorCountSubscriptions_.forEach([](const auto& subscriber) { (*subscriber.callbacks)(); });
 }
 
 // The one place where counts travel upward.
@@ -245,9 +245,9 @@ void PropertyContainer::adjustSubContainerPropertyErrorCount(std::int64_t differ
 }
 
 void PropertyContainer::updateSubContainerPropertyErrorCount() {
-    // Walking may configure sub-containers, whose callbacks and counts come back here. Instead of
-    // walking again inside the walk, which would nest as deep as the list is long, the walk is
-    // repeated when it has ended.
+    // Counting a sub-container may configure it, and its callbacks may ask for this recount again.
+    // Instead of walking again inside the walk, which would nest as deep as the list is long, the
+    // walk is repeated when it has ended.
     if (recount_ != Recount::Idle) {
         recount_ = Recount::Outdated;
         return;
@@ -256,11 +256,16 @@ void PropertyContainer::updateSubContainerPropertyErrorCount() {
     std::uint64_t sum = 0;
     bool complete = false;
     do {
-        recount_ = Recount::Running;
+        recount_ = Recount::Idle;
         sum = 0;
         complete = failure.run([&] {
             forEachSubPropertyContainer(
                 [&](PropertyContainer& container) {
+                    // Not earlier: this container may have to configure itself before it can walk,
+                    // and recounts itself when it has.
+                    if (recount_ == Recount::Idle) {
+                        recount_ = Recount::Running;
+                    }
                     sum += countDespite(failure, [&] { return container.countGivenTo(*this); });
                 },
                 false);

@@ -54,22 +54,15 @@ bool PropertyController::propertyVisible(const PropertyId& property) const {
 void PropertyController::publish(const PropertyId& property, Action action,
                                  std::size_t index) const {
     if (const auto data = properties_.find(property)) {
-        publishGlobally([&](PropertyChanges& changes) {
-            data->publish(action, index, changes);
-            updateDependentProperties(*data, changes);
-        });
-        raisePropertyNotifications(*data);
+        publishWithDependents(
+            *data, [&](PropertyChanges& changes) { data->publish(action, index, changes); });
     }
 }
 
 void PropertyController::publishValue(const PropertyId& property, Action action,
                                       std::size_t index) const {
     if (const auto data = properties_.find(property)) {
-        publishGlobally([&](PropertyChanges& changes) {
-            changes |= data->publishValue(action, index);
-            updateDependentProperties(*data, changes);
-        });
-        raisePropertyNotifications(*data);
+        publishWithDependents(*data, [&](PropertyChanges&) { data->publishValue(action, index); });
     }
 }
 
@@ -142,13 +135,17 @@ void PropertyController::configurePropertyInternal(const PropertyId& property,
                                                    PropertyConfiguration&& configuration,
                                                    const ClassifiedProperty& classified) {
     internal::FirstException failure;
-    if (classified.subPropertyContainer != nullptr) {
+    if (PropertyContainer* const container = classified.subPropertyContainer) {
         failure.run([&] {
-            classified.subPropertyContainer->setEnclosingPropertyContainer(
-                *this, {.reservedFlag = false,
-                        .keepNewContainerCount = true,
-                        .keepOldContainerCount = false});
+            container->setEnclosingPropertyContainer(*this, {.reservedFlag = false,
+                                                             .keepNewContainerCount = true,
+                                                             .keepOldContainerCount = false});
         });
+        // A container that could not be linked leaves the property as it was. One that was, whoever
+        // failed to hear of it, has to be found in the property.
+        if (container->enclosingPropertyContainer() != this) {
+            failure.rethrow();
+        }
     }
     if (classified.crossReferenceController != nullptr) {
         classified.crossReferenceController->setReferringController(*this);
@@ -208,21 +205,45 @@ void PropertyController::unsubscribe(const PropertyId& property, std::size_t id)
 template <class Publication>
 void PropertyController::publishGlobally(Publication&& publication) const {
     PropertyChanges changes;
-    internal::FirstException failure;
-    failure.run([&] { publication(changes); });
-    failure.run([&] { publishGlobalChanges(changes); });
-    failure.rethrow();
+    try {
+        publication(changes);
+    } catch (...) {
+        internal::FirstException().run([&] { publishGlobalChanges(changes); });
+        throw;
+    }
+    if (changes.subPropertyVisibilityChanged || changes.errorCountMayHaveChanged) {
+        publishGlobalChanges(changes);
+    }
 }
 
-void PropertyController::updateDependentProperties(const PropertyData& data,
-                                                   PropertyChanges& changes) const {
-    // By position and with a copy, since a callback may cause a configuration that adds dependents.
-    for (std::size_t i = 0; i < data.dependentProperties().size(); ++i) {
-        const Dependency dependency = data.dependentProperties()[i];
-        if (const auto dependent = properties_.find(dependency.property)) {
-            dependent->publishDependency(dependency, changes);
+template <class Publication>
+void PropertyController::publishWithDependents(const PropertyData& data,
+                                               Publication&& publication) const {
+    publishGlobally([&](PropertyChanges& changes) {
+        publication(changes);
+        if (!data.dependentProperties().empty()) {
+            changes |= updateDependentProperties(data);
         }
+    });
+    raisePropertyNotifications(data);
+}
+
+PropertyController::PropertyChanges
+PropertyController::updateDependentProperties(const PropertyData& data) const {
+    PropertyChanges changes;
+    try {
+        // By position and with a copy: a callback may cause a configuration that adds dependents.
+        for (std::size_t i = 0; i < data.dependentProperties().size(); ++i) {
+            const Dependency dependency = data.dependentProperties()[i];
+            if (const auto dependent = properties_.find(dependency.property)) {
+                dependent->publishDependency(dependency, changes);
+            }
+        }
+    } catch (...) {
+        internal::FirstException().run([&] { publishGlobalChanges(changes); });
+        throw;
     }
+    return changes;
 }
 
 void PropertyController::publishGlobalChanges(const PropertyChanges& changes) const {
@@ -256,12 +277,7 @@ void PropertyController::raisePropertyNotifications(const PropertyData& data) co
 
 bool PropertyController::updateCachedPropertyErrorCount() const {
     ensurePropertiesConfigured();
-    std::size_t count = 0;
-    properties_.forEach([&](const PropertyData& data) {
-        if (!data.state().has_value()) {
-            ++count;
-        }
-    });
+    const std::size_t count = properties_.errorCount();
     return std::exchange(cachedPropertyErrorCount_, count) != count;
 }
 

@@ -41,9 +41,7 @@ private:
 
 /// What each subscriber is told.
 struct PropertyController::PropertyData::Notification {
-    enum class Value { Silent, WithoutDetails, WithDetails };
-
-    Value value = Value::Silent;
+    bool value = false;
     Action action = Action::Update;
     std::size_t index = 0;
     bool state = false;
@@ -52,10 +50,13 @@ struct PropertyController::PropertyData::Notification {
 
 void PropertyController::PropertyData::configure(PropertyConfiguration&& configuration,
                                                  const ClassifiedProperty& classified) {
+    internal::PropertyFunction<bool> visibility(std::move(configuration.visibility));
+    internal::PropertyFunction<PropertyState> state(std::move(configuration.state));
     std::vector<PropertyId> raised(configuration.raisedProperties.begin(),
                                    configuration.raisedProperties.end());
-    visibilityFunction_.replace(std::move(configuration.visibility));
-    stateFunction_.replace(std::move(configuration.state));
+    // What is replaced is destroyed last, when this object is as it will stay.
+    std::swap(visibilityFunction_, visibility);
+    std::swap(stateFunction_, state);
     raisedProperties_.swap(raised);
     subPropertyContainer_ = classified.subPropertyContainer;
     crossReferenceController_ = classified.crossReferenceController;
@@ -97,7 +98,7 @@ PropertyController::PropertyChanges
 PropertyController::PropertyData::publishValue(Action action, std::size_t index) {
     const Publishing publishing(publishingFlags_, kValueBit);
     if (publishing.isOutermost(kValueBit)) {
-        notify({.value = Notification::Value::WithDetails, .action = action, .index = index});
+        notifyValue(action, index);
     }
     return {};
 }
@@ -126,8 +127,7 @@ void PropertyController::PropertyData::publish(Action action, std::size_t index,
     const Publishing publishing(publishingFlags_, kValueBit | kStateBit);
     const bool stateChanged = updateCachedState();
     changes |= {.stateChanged = stateChanged, .errorCountMayHaveChanged = stateChanged};
-    notify({.value = publishing.isOutermost(kValueBit) ? Notification::Value::WithDetails
-                                                       : Notification::Value::Silent,
+    notify({.value = publishing.isOutermost(kValueBit),
             .action = action,
             .index = index,
             .state = stateChanged && publishing.isOutermost(kStateBit)});
@@ -170,9 +170,7 @@ void PropertyController::PropertyData::publishDependency(const Dependency& depen
     const bool stateChanged = (dependency.updatesState || visibilityChanged) && updateCachedState();
     changes |= {.errorCountMayHaveChanged = stateChanged};
 
-    notify({.value = dependency.updatesValue && publishing.isOutermost(kValueBit)
-                         ? Notification::Value::WithoutDetails
-                         : Notification::Value::Silent,
+    notify({.value = dependency.updatesValue && publishing.isOutermost(kValueBit),
             .state = stateChanged && publishing.isOutermost(kStateBit),
             .visibility = visibilityChanged && publishing.isOutermost(kVisibilityBit)});
 }
@@ -214,28 +212,34 @@ bool PropertyController::PropertyData::storeState(PropertyState&& state) const n
     if (sameState(state, cachedState_)) {
         return false;
     }
+    errorCounter_.change(!cachedState_.has_value(), !state.has_value());
     cachedState_ = std::move(state);
     return true;
 }
 
+void PropertyController::PropertyData::notifyValue(Action action, std::size_t index) const {
+    subscriptions_.forEach([action, index](const auto& subscriber) {
+        subscriber.callbacks->value.callIfSet(action, index);
+    });
+}
+
 void PropertyController::PropertyData::notify(const Notification& notification) const {
-    if (notification.value == Notification::Value::Silent && !notification.state &&
-        !notification.visibility) {
+    if (!notification.state && !notification.visibility) {
+        if (notification.value) {
+            notifyValue(notification.action, notification.index);
+        }
         return;
     }
-    subscriptions_.forEach([&](std::size_t id, const SubscriptionCallbacks& callbacks) {
-        if (notification.value != Notification::Value::Silent && callbacks.value) {
-            if (notification.value == Notification::Value::WithDetails) {
-                callbacks.value(notification.action, notification.index);
-            } else {
-                callbacks.value();
-            }
+    // A subscriber that ends its subscription in one callback hears nothing more.
+    subscriptions_.forEach([notification](const auto& subscriber) {
+        const SubscriptionCallbacks& callbacks = *subscriber.callbacks;
+        if (notification.value) {
+            callbacks.value.callIfSet(notification.action, notification.index);
         }
-        // A subscriber that ends its subscription in one callback hears nothing more.
-        if (notification.state && callbacks.state && subscriptions_.contains(id)) {
+        if (notification.state && callbacks.state && !subscriber.erased) {
             callbacks.state();
         }
-        if (notification.visibility && callbacks.visibility && subscriptions_.contains(id)) {
+        if (notification.visibility && callbacks.visibility && !subscriber.erased) {
             callbacks.visibility();
         }
     });

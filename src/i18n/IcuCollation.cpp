@@ -28,22 +28,41 @@ const IcuCollation* IcuCollation::instance() {
 }
 
 std::unique_ptr<const IcuCollation> IcuCollation::make() {
+    Collator collator = open(UCOL_SECONDARY);
+    Collator primaryCollator = open(UCOL_PRIMARY);
+    if (!collator || !primaryCollator) {
+        return nullptr;
+    }
+    return std::unique_ptr<const IcuCollation>(
+        new IcuCollation(std::move(collator), std::move(primaryCollator)));
+}
+
+IcuCollation::Collator IcuCollation::open(UCollationStrength strength) {
     const char* const userLocale = uloc_getDefault();
     // The POSIX order is that of the code points, which puts all capitals first.
     const char* const locale = isPosix(userLocale) ? "" : userLocale;
 
     UErrorCode status = U_ZERO_ERROR;
-    Collator collator(ucol_open(locale, &status));
-    ucol_setAttribute(collator.get(), UCOL_STRENGTH, UCOL_SECONDARY, &status);
+    Collator collator(ucol_open(locale, &status), ucol_close);
+    ucol_setAttribute(collator.get(), UCOL_STRENGTH, strength, &status);
     ucol_setAttribute(collator.get(), UCOL_NUMERIC_COLLATION, UCOL_ON, &status);
     ucol_setAttribute(collator.get(), UCOL_ALTERNATE_HANDLING, UCOL_NON_IGNORABLE, &status);
     ucol_setAttribute(collator.get(), UCOL_NORMALIZATION_MODE, UCOL_ON, &status);
-    return U_FAILURE(status)
-               ? nullptr
-               : std::unique_ptr<const IcuCollation>(new IcuCollation(std::move(collator)));
+    if (U_FAILURE(status)) {
+        collator.reset();
+    }
+    return collator;
 }
 
-std::weak_ordering IcuCollation::compare(const IcuText& left, const IcuText& right) const {
+std::weak_ordering IcuCollation::compare(std::wstring_view leftText,
+                                         std::wstring_view rightText) const {
+    leftText = leftText.substr(0, static_cast<std::size_t>(comparedLength(leftText.size())));
+    rightText = rightText.substr(0, static_cast<std::size_t>(comparedLength(rightText.size())));
+    if (const auto decided = primaryWeights_.compare(leftText, rightText)) {
+        return *decided;
+    }
+    const IcuText left(leftText);
+    const IcuText right(rightText);
     // With digits of other scripts ICU's direct comparison contradicts itself in most languages;
     // its sort keys do not.
     if (holdsDigitOutsideAscii(left) || holdsDigitOutsideAscii(right)) {

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "IcuText.hpp"
+#include "PrimaryWeights.hpp"
 
 #include <unicode/ucol.h>
 
 #include <compare>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace corvane::workbench::i18n {
 
@@ -18,20 +21,21 @@ public:
     /// Null when ICU lacks its data.
     [[nodiscard]] static const IcuCollation* instance();
 
-    [[nodiscard]] std::weak_ordering compare(const IcuText& left, const IcuText& right) const;
+    [[nodiscard]] std::weak_ordering compare(std::wstring_view left, std::wstring_view right) const;
     /// Bytes that compare like the texts.
     [[nodiscard]] std::string sortKey(const IcuText& text) const;
 
 private:
-    struct Close {
-        void operator()(UCollator* collator) const noexcept { ucol_close(collator); }
-    };
-    using Collator = std::unique_ptr<UCollator, Close>;
+    using Collator = std::unique_ptr<UCollator, void (*)(UCollator*)>;
 
-    explicit IcuCollation(Collator collator) : collator_(std::move(collator)) {}
+    IcuCollation(Collator collator, Collator primaryCollator)
+        : collator_(std::move(collator)), primaryWeights_(std::move(primaryCollator)) {}
     [[nodiscard]] static std::unique_ptr<const IcuCollation> make();
+    /// Null when ICU lacks its data.
+    [[nodiscard]] static Collator open(UCollationStrength strength);
 
     Collator collator_;
+    PrimaryWeights primaryWeights_;
 };
 
 } // namespace corvane::workbench::i18n

@@ -36,9 +36,6 @@ Pages findPages() {
 } // namespace
 
 bool holdsDigitOutsideAscii(const IcuText& text) {
-    if (text.isLatinOrGreek()) {
-        return false;
-    }
     static const Pages pages = findPages();
     const UChar* const end = text.data() + text.length();
     for (const UChar* unit = text.data(); unit != end; ++unit) {

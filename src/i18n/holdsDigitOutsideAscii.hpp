@@ -6,8 +6,7 @@
 
 namespace corvane::workbench::i18n {
 
-/// Whether a character of the text is a decimal digit but none of 0 to 9. Costs next to nothing for
-/// a text of Latin and Greek letters.
+/// Whether a character of the text is a decimal digit but none of 0 to 9.
 [[nodiscard]] bool holdsDigitOutsideAscii(const IcuText& text);
 
 } // namespace corvane::workbench::i18n

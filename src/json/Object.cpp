@@ -122,7 +122,7 @@ void Object::decodeInternal(decoder::Value& source, MemberFilter filter, Decodin
 }
 
 void Object::decodeInternal(decoder::Object& source, MemberFilter filter, DecodingOptions options) {
-    source.addFilter(filter);
+    const decoder::Object::FilterScope scope(source, filter);
     decode(source, options);
 }
 

@@ -1,7 +1,7 @@
 // Reading, where the three classes call one another for every value: together, so that the compiler
 // sees it as a whole.
 #include "internal/MemberIndex.hpp"
-#include "internal/throwAt.hpp"
+#include "internal/decodingErrors.hpp"
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
@@ -9,9 +9,7 @@
 #include <corvane/workbench/json/Object.hpp>
 #include <corvane/workbench/json/Value.hpp>
 
-#include <format>
 #include <memory>
-#include <stdexcept>
 #include <tuple>
 #include <utility>
 #include <variant>
@@ -19,15 +17,6 @@
 namespace corvane::workbench::json {
 
 namespace decoder = utils::json::decoder;
-
-namespace {
-
-[[noreturn]] void throwDuplicateMember(const decoder::Name& name) {
-    internal::throwAt(name.location(), std::runtime_error(std::format(
-                                           "duplicate member \"{}\" in JSON object", name.text())));
-}
-
-} // namespace
 
 inline void Value::decodeContent(decoder::Value& source, DecodingOptions options) {
     if (source.isNumber()) {
@@ -40,8 +29,7 @@ inline void Value::decodeContent(decoder::Value& source, DecodingOptions options
         boolean_ = source.asBool();
         kind_ = Kind::Boolean;
     } else if (!source.isNull()) {
-        internal::throwAt(source.location(),
-                          std::logic_error("internal_error: unsupported JSON value type"));
+        internal::throwUnsupportedType(source);
     }
 }
 
@@ -85,20 +73,26 @@ void Object::decodeMembers(decoder::Object& source, DecodingOptions options) {
     members_.reserve(source.memberCount());
     internal::MemberIndex index(members_, source.memberCount());
     for (const decoder::Member& member : source) {
-        const std::string_view name = member.name.text();
-        const std::size_t position = index.findOrEnter(name);
         // Nested values are read with default options, whatever holds for the outermost one.
-        if (position == internal::MemberIndex::kNone) {
-            members_
-                .emplace_back(std::piecewise_construct, std::forward_as_tuple(name),
-                              std::forward_as_tuple())
-                .second.decodeContent(member.value, {});
-        } else if (options.allowDuplicateMembers) {
-            members_[position].second.decode(member.value);
-        } else {
-            throwDuplicateMember(member.name);
-        }
+        valueOf(member.name, index, options).decodeContent(member.value, {});
     }
+}
+
+/// The null value of the member that is to be decoded: of a new one, or of one that comes again.
+Value& Object::valueOf(const decoder::Name& name, internal::MemberIndex& index,
+                       DecodingOptions options) {
+    const std::string_view text = name.text();
+    const std::size_t position = index.findOrEnter(text);
+    if (position == internal::MemberIndex::kNone) {
+        return members_
+            .emplace_back(std::piecewise_construct, std::forward_as_tuple(text),
+                          std::forward_as_tuple())
+            .second;
+    }
+    if (!options.allowDuplicateMembers) {
+        internal::throwDuplicateMember(name);
+    }
+    return members_[position].second = Value();
 }
 
 void Value::decode(decoder::Value& source, DecodingOptions options) {

@@ -392,6 +392,25 @@ TEST(PropertyContainer, LinkingToTheContainerItIsLinkedToDoesNothingAtAll) {
     EXPECT_EQ(owner.propertyErrorCount(), 3U);
 }
 
+TEST(PropertyContainer, LinkingAContainerThatFailsToBeCountedLeavesEverythingAsItWas) {
+    Trace trace;
+    TestContainer former("former", trace);
+    TestContainer owner("owner", trace);
+    TestContainer part;
+    part.local = 3;
+    part.setEnclosingPropertyContainer(former, {});
+    (void)trace.take();
+    part.onLocalQuery = [] { throw std::runtime_error("part"); };
+    EXPECT_THROW(part.setEnclosingPropertyContainer(owner, {}), std::runtime_error);
+    EXPECT_EQ(trace.take(), "");
+    EXPECT_EQ(part.enclosingPropertyContainer(), &former);
+    EXPECT_EQ(former.propertyErrorCount(), 3U);
+    EXPECT_EQ(owner.propertyErrorCount(), 0U);
+    part.onLocalQuery = nullptr;
+    part.setEnclosingPropertyContainer(owner, {});
+    EXPECT_EQ(trace.take(), "former.changed=0 owner.changed=3");
+}
+
 TEST(PropertyContainer, UnlinkingTakesTheCountOutAfterTheLinkIsGone) {
     Trace trace;
     TestContainer owner("owner", trace);

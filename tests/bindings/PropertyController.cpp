@@ -348,6 +348,52 @@ TEST(PropertyController, DropsExceptionsOfTheFinalRecountAndStillCountsItsOwnErr
     EXPECT_EQ(controller.propertyErrorCount(), 2U);
 }
 
+TEST(PropertyController, CountsItsSubContainersBeforeItsOwnErrorsAlsoWhenARecountConfiguresIt) {
+    Trace trace;
+    TestController item([](Context& context) {
+        context.configure(kC, {.state = [] { return failure(); }});
+        context.configure(kD, {.state = [] { return failure(); }});
+    });
+    TestController owner([&](Context& context) {
+        context.configure(kA, {.state = [] { return failure(); }});
+        context.configure(kB, {}, {.subPropertyContainer = &item});
+    });
+    const auto counted = owner.subscribeToPropertyErrorCount(
+        [&] { trace.add(std::to_string(owner.propertyErrorCount())); });
+    owner.subPropertyContainerListChanged({});
+    EXPECT_EQ(trace.take(), "2 3");
+    EXPECT_EQ(owner.propertyErrorCount(), 3U);
+}
+
+TEST(PropertyController, LeavesAPropertyAloneWhoseSubContainerCannotBeLinked) {
+    Reference reference;
+    TestContainer part;
+    part.onLocalQuery = [] { throw std::runtime_error("part"); };
+    TestController controller([&](Context& context) {
+        context.configure(kA, {.valueDependencies = {kB}, .state = [] { return failure(); }},
+                          {.subPropertyContainer = &part, .crossReferenceController = &reference});
+    });
+    EXPECT_THROW((void)controller.propertyVisible(kA), std::runtime_error);
+    EXPECT_EQ(entries(controller), 0U);
+    EXPECT_EQ(part.enclosingPropertyContainer(), nullptr);
+    EXPECT_EQ(reference.referringController(), nullptr);
+    EXPECT_EQ(controller.propertyErrorCount(), 0U);
+}
+
+TEST(PropertyController, ConfiguresAPropertyThoughTheFormerContainerOfItsSubContainerFails) {
+    TestContainer former;
+    TestContainer part;
+    part.local = 2;
+    part.setEnclosingPropertyContainer(former, {});
+    former.onErrorCountChanged = [] { throw std::runtime_error("former"); };
+    TestController controller(
+        [&](Context& context) { context.configure(kA, {}, {.subPropertyContainer = &part}); });
+    EXPECT_THROW((void)controller.propertyVisible(kA), std::runtime_error);
+    EXPECT_EQ(former.propertyErrorCount(), 0U);
+    EXPECT_EQ(part.enclosingPropertyContainer(), &controller);
+    EXPECT_EQ(controller.propertyErrorCount(), 2U);
+}
+
 // Publishing.
 
 TEST(PropertyController, PublishingAnUnknownPropertyDoesNothing) {

@@ -15,10 +15,6 @@ static_assert(std::is_convertible_v<const PropertyKey&, PropertyId>);
 const PropertyKey kSpeed;
 constinit const PropertyKey kPressure;
 
-TEST(PropertyKey, NamesTheSamePropertyEachTime) {
-    EXPECT_EQ(kSpeed.id(), kSpeed.id());
-}
-
 TEST(PropertyKey, NamesAnotherPropertyThanAnyOtherKey) {
     EXPECT_NE(kSpeed.id(), kPressure.id());
 }

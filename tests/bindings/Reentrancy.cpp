@@ -1,5 +1,6 @@
 // What a callback may do while it runs: every kind of callback with every action. The expectations
 // stand in the documentation's table, which this test reads.
+#include "TestContainer.hpp"
 #include "TestController.hpp"
 #include "Trace.hpp"
 #include <corvane/workbench/bindings/PropertyController.hpp>
@@ -340,6 +341,72 @@ TEST(Reentrancy, AnEntryMadeAnewDuringItsOwnPublicationIsAnotherOne) {
     EXPECT_EQ(trace.take(), "first");
     controller.publishValue(kNew, Action::Update, 0);
     EXPECT_EQ(trace.take(), "second");
+}
+
+// Nested changes of error counts.
+
+TEST(Reentrancy, ACountThatIsTakenBackBeforeItIsPassedOnIsNotHeardAbove) {
+    Trace trace;
+    TestContainer outer("outer", trace);
+    TestContainer middle("middle", trace);
+    TestContainer inner("inner", trace);
+    outer.parts = {{&middle}};
+    middle.parts = {{&inner}};
+    inner.setEnclosingPropertyContainer(middle, {});
+    middle.setEnclosingPropertyContainer(outer, {});
+    middle.onErrorCountChanged = [&] {
+        if (inner.local != 0) {
+            inner.setLocal(0);
+        }
+    };
+    inner.setLocal(1);
+    EXPECT_EQ(trace.take(), "inner.changed=1 middle.changed=1 inner.changed=0 middle.changed=0");
+    EXPECT_EQ(outer.propertyErrorCount(), 0U);
+}
+
+TEST(Reentrancy, CountChangesThatAnOwnerHasNotHeardOfYetReachItAsOne) {
+    Trace trace;
+    TestContainer outer("outer", trace);
+    TestContainer middle("middle", trace);
+    TestContainer inner("inner", trace);
+    outer.parts = {{&middle}};
+    middle.parts = {{&inner}};
+    inner.setEnclosingPropertyContainer(middle, {});
+    middle.setEnclosingPropertyContainer(outer, {});
+    middle.onErrorCountChanged = [&] {
+        if (inner.local == 1) {
+            inner.setLocal(3);
+        }
+    };
+    inner.setLocal(1);
+    EXPECT_EQ(trace.take(), "inner.changed=1 middle.changed=1 inner.changed=3 middle.changed=3 "
+                            "outer.changed=3");
+}
+
+TEST(Reentrancy, RelinkingWithBothKeepFlagsAndReportingBothListsKeepsCountsRight) {
+    TestContainer part;
+    TestContainer former;
+    TestContainer next;
+    for (TestContainer* const acting : {&part, &former}) {
+        part.setEnclosingPropertyContainer(former, {});
+        former.parts = {{&part}};
+        next.parts.clear();
+        acting->onErrorCountChanged = [&] {
+            if (!former.parts.empty()) {
+                next.parts = std::exchange(former.parts, {});
+                part.setEnclosingPropertyContainer(
+                    next, {.keepNewContainerCount = true, .keepOldContainerCount = true});
+                former.subPropertyContainerListChanged({});
+                next.subPropertyContainerListChanged({});
+            }
+        };
+        part.setLocal(2);
+        EXPECT_EQ(former.propertyErrorCount(), 0U);
+        EXPECT_EQ(next.propertyErrorCount(), 2U);
+        part.setLocal(0);
+        EXPECT_EQ(next.propertyErrorCount(), 0U);
+        acting->onErrorCountChanged = nullptr;
+    }
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 
 namespace corvane::workbench::bindings::test {
 
-/// A record of what happened, in order: words with one blank between them.
+/// A record of what happened, in order: words with one space between them.
 class Trace {
 public:
     void add(std::string_view word) {

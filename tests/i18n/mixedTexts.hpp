@@ -18,7 +18,8 @@ inline std::vector<std::wstring> mixedTexts(std::size_t count) {
     using namespace std::string_view_literals;
     static constexpr std::wstring_view kPieces[] = {
         L"a"sv, L"A"sv, L"b"sv, L"B"sv, L"z"sv, L"i"sv, L"I"sv, L"\u0130"sv, L"\u0131"sv, L"0"sv,
-        L"00"sv, L"1"sv, L"9"sv, L"10"sv, L"19"sv, L"100"sv, L"1234567890123456789012"sv,
+        L"00"sv, L"1"sv, L"9"sv, L"10"sv, L"19"sv, L"01"sv, L"010"sv, L"100"sv, L"2"sv,
+        L"1234567890123456789012"sv,
         // Accents, composed, decomposed, and in two orders.
         L"\u00E4"sv, L"a\u0308"sv, L"\u00C4"sv, L"\u00E5"sv, L"a\u030A"sv, L"\u212B"sv, L"\u00E9"sv,
         L"e\u0301"sv, L"\u1E69"sv, L"s\u0323\u0307"sv, L"s\u0307\u0323"sv, L"\u00F1"sv, L"n"sv,
@@ -34,8 +35,10 @@ inline std::vector<std::wstring> mixedTexts(std::size_t count) {
         // Other scripts.
         L"\u0434"sv, L"\u0414"sv, L"\u0451"sv, L"\u03B1"sv, L"\u0391"sv, L"\u03C2"sv, L"\u0627"sv,
         L"\u0628"sv, L"\u0915"sv, L"\u093C"sv, L"\u0E40"sv, L"\u0E01"sv, L"\u304B"sv, L"\u30AB"sv,
-        L"\u30FC"sv, L"\u3042"sv, L"\u6F22"sv, L"\u4E2D"sv, L"\uAC00"sv, L"\u1100\u1161"sv,
-        L"\uFF41"sv, L"\uFF21"sv, L"\xD83D\xDE00"sv, L"\xD835\xDC00"sv, L"\xD83D"sv, L"\xDE00"sv};
+        L"\u30FC"sv, L"\u30AB\u30FC"sv, L"\u309D"sv, L"l"sv, L"l\u00B7"sv, L"\u00B7"sv,
+        L"\u0438\u0306"sv, L"\u0439"sv, L"y"sv, L"w"sv, L"rz"sv, L"\u11A8"sv, L"\u3042"sv,
+        L"\u6F22"sv, L"\u4E2D"sv, L"\uAC00"sv, L"\u1100\u1161"sv, L"\uFF41"sv, L"\uFF21"sv,
+        L"\xD83D\xDE00"sv, L"\xD835\xDC00"sv, L"\xD83D"sv, L"\xDE00"sv};
     static constexpr std::wstring_view kForeignDigits[] = {L"\uFF10"sv,
                                                            L"\uFF11"sv,
                                                            L"\uFF11\uFF19"sv,

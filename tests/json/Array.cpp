@@ -49,7 +49,8 @@ TEST(JsonArray, ComparesLengthAndElements) {
 TEST(JsonArray, IsMadeFromAnArrayTextOnly) {
     EXPECT_EQ(Array::fromString("{}").error(), L"expected an array, found an object");
     EXPECT_EQ(Array::fromString("\"a\"").error(), L"expected an array, found a string");
-    EXPECT_FALSE(Array::fromString("[] 1").has_value());
+    EXPECT_EQ(Array::fromString("[] 1").error(),
+              L"Error on line 1: unexpected text after the end of the value");
 }
 
 TEST(JsonArray, AppendsAndErasesElements) {

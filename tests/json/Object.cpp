@@ -8,7 +8,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -135,7 +137,8 @@ TEST(JsonObject, DistinguishesNamesOfAnyBytes) {
 TEST(JsonObject, IsMadeFromAnObjectTextOnly) {
     EXPECT_EQ(Object::fromString("[]").error(), L"expected an object, found an array");
     EXPECT_EQ(Object::fromString("5").error(), L"expected an object, found a number");
-    EXPECT_FALSE(Object::fromString("{} {}").has_value());
+    EXPECT_EQ(Object::fromString("{} {}").error(),
+              L"Error on line 1: unexpected text after the end of the value");
 }
 
 TEST(JsonObject, AppendsFindsAndErasesMembers) {
@@ -254,6 +257,74 @@ TEST(JsonObject, AFilterSeesTheOutermostMembersAndMayConsumeThem) {
     });
     EXPECT_THAT(seen, ElementsAre("a", "b", "d", "e"));
     EXPECT_EQ(compact(object), R"({"b":{"c":2},"e":"x"})");
+}
+
+TEST(JsonObject, AFilterMayHaveAStateOfItsOwn) {
+    auto consumesEverySecond = [count = 0](const decoder::Name&, decoder::Value&) mutable {
+        return ++count % 2 == 0;
+    };
+    auto filter = consumesEverySecond;
+    EXPECT_EQ(
+        compact(Object::fromString(R"({"a":1,"b":2,"c":3,"d":4})", std::move(consumesEverySecond))
+                    .value()),
+        R"({"a":1,"c":3})");
+    Object object;
+    test::withRoot(R"({"a":1})", [&](decoder::Value& root) { object.decode(root, filter); });
+    EXPECT_EQ(compact(object), R"({"a":1})");
+    test::withRoot(R"({"a":1,"b":2})", [&](decoder::Value& root) {
+        decoder::Object source = root.asObject();
+        object.decode(source, filter); // goes on counting
+    });
+    EXPECT_EQ(compact(object), R"({"b":2})");
+}
+
+TEST(JsonObject, AFilterIsNotCalledAfterADecodingThatFailed) {
+    test::withRoot(R"({"a":1,"bad":{"b":1,"b":2},"c":3,"d":4})", [](decoder::Value& root) {
+        decoder::Object source = root.asObject();
+        std::string walked;
+        {
+            int calls = 0;
+            const auto filter = [&](const decoder::Name&, decoder::Value&) {
+                ++calls;
+                return calls > 2;
+            };
+            EXPECT_THROW(Object().decode(source, filter), std::runtime_error);
+            EXPECT_EQ(calls, 2);
+        }
+        for (const decoder::Member& member : source) {
+            walked.append(member.name.text()).append(" ");
+        }
+        EXPECT_EQ(walked, "bad c d ");
+    });
+}
+
+TEST(JsonObject, AFilterIsNotCalledAfterItHasThrown) {
+    test::withRoot(R"({"a":1,"name":2,"children":3})", [](decoder::Value& root) {
+        decoder::Object source = root.asObject();
+        EXPECT_THROW(Object().decode(source, Object::kCorvaneElementFilter), std::runtime_error);
+        std::string walked;
+        for (const decoder::Member& member : source) {
+            walked.append(member.name.text()).append(" ");
+        }
+        EXPECT_EQ(walked, "name children ");
+    });
+}
+
+TEST(JsonObject, AFilterOfTheCallerStaysWhenAnotherGoes) {
+    test::withRoot(R"({"a":1,"name":2,"b":3})", [](decoder::Value& root) {
+        decoder::Object source = root.asObject();
+        std::string seen;
+        const auto watch = [&](const decoder::Name& name, decoder::Value&) {
+            seen.append(name.text()).append(" ");
+            return false;
+        };
+        source.addFilter(watch);
+        EXPECT_THROW(Object().decode(source, Object::kCorvaneElementFilter), std::runtime_error);
+        for (const decoder::Member& member : source) {
+            static_cast<void>(member);
+        }
+        EXPECT_EQ(seen, "a name b ");
+    });
 }
 
 TEST(JsonObject, ConsumedMembersAreNoDuplicates) {

@@ -90,7 +90,7 @@ TEST_F(MatchersTest, ShowTheTreeAroundASettingThatIsNotAsExpected) {
               "    hidden Top speed: 1500\n"
               "    ok     Summary: 0 steps\n"
               "    ok     Follows:\n"
-              "    ok     Steps: no rows\n");
+              "    ok     Steps: no rows");
 }
 
 TEST_F(MatchersTest, ShowTheTreeBelowAnElementWithAnotherNumberOfErrors) {
@@ -101,7 +101,7 @@ TEST_F(MatchersTest, ShowTheTreeBelowAnElementWithAnotherNumberOfErrors) {
                                              "  hidden Top speed: 1500\n"
                                              "  ok     Summary: 0 steps\n"
                                              "  ok     Follows:\n"
-                                             "  ok     Steps: no rows\n");
+                                             "  ok     Steps: no rows");
 }
 
 TEST_F(MatchersTest, ShowTheFirstLineThatWasNotExpected) {

@@ -3,7 +3,7 @@
 #include <corvane/workbench/bindings/Action.hpp>
 
 #include <algorithm>
-#include <utility>
+#include <iterator>
 
 namespace corvane::workbench::kit::internal {
 
@@ -20,12 +20,14 @@ void ChangeForm::follow() {
 void ChangeForm::take(Description& description) {
     if (description.subject == Description::Subject::Setting) {
         if (description.property == property_) {
-            actions_ = std::move(description.actions);
+            auto& actions = description.behaviour->actions;
+            actions_.assign(std::make_move_iterator(actions.begin()),
+                            std::make_move_iterator(actions.end()));
         }
     } else {
-        membersDepend_ =
-            membersDepend_ || std::ranges::find(description.memberDependencies, property_) !=
-                                  description.memberDependencies.end();
+        membersDepend_ = membersDepend_ ||
+                         std::ranges::find(description.behaviour->memberDependencies, property_) !=
+                             description.behaviour->memberDependencies.end();
     }
 }
 

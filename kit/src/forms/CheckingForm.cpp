@@ -183,8 +183,9 @@ void CheckingForm::checkChoices(const Description& description) const {
 
 void CheckingForm::addDependencies(std::string_view name, const Description& description) {
     for (const auto* list :
-         {&description.valueDependencies, &description.stateDependencies,
-          &description.visibilityDependencies, &description.memberDependencies}) {
+         {&description.behaviour->valueDependencies, &description.behaviour->stateDependencies,
+          &description.behaviour->visibilityDependencies,
+          &description.behaviour->memberDependencies}) {
         for (const bindings::PropertyId& dependency : *list) {
             dependencies_.emplace_back(name, dependency);
         }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <corvane/workbench/bindings/PropertyIdRange.hpp>
 #include <corvane/workbench/kit/Form.hpp>
 
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace corvane::workbench::kit::internal {
@@ -14,20 +17,28 @@ public:
     ConfiguringForm(const Subject& subject, Context& context)
         : Form(subject, Purpose::Configure), context_(context) {}
 
-    void configure();
-    /// The property that is published when a reference or a list changes on which members depend;
-    /// empty when there is none.
-    [[nodiscard]] bindings::PropertyId memberTrigger() const noexcept;
+    /// What is done whenever the value of a property is published that nobody else knows. It
+    /// depends on references and lists, which change without the form.
+    struct Trigger {
+        bindings::PropertyId property;
+        std::function<void()> action;
+    };
+
+    /// Returns what the subject is to subscribe to.
+    [[nodiscard]] std::vector<Trigger> configure();
 
 private:
     void take(Description& description) override;
-    void configureDisplayName(const std::vector<bindings::PropertyId>& dependencies);
+    void addTrigger(const std::string& name, bindings::PropertyIdRange dependencies,
+                    std::function<void()> action);
+    void configureDisplayName(bindings::PropertyIdRange dependencies);
 
     Context& context_;
     /// The first setting of a row, which names it unless it has a display name of its own.
     bindings::PropertyId first_;
     bool hasDisplayName_ = false;
     std::vector<bindings::PropertyId> memberDependencies_;
+    std::vector<Trigger> triggers_;
 };
 
 } // namespace corvane::workbench::kit::internal

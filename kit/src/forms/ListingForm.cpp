@@ -18,8 +18,8 @@ State noSuchRow() {
 
 std::wstring displayNameOf(const Description& description) {
     std::wstring name = translated(description.displayName);
-    if (!description.unit.empty()) {
-        name += L" (" + translated(description.unit) + L")";
+    if (!description.behaviour->unit.empty()) {
+        name += L" (" + translated(description.behaviour->unit) + L")";
     }
     return name;
 }
@@ -43,7 +43,7 @@ void addValue(skill::EditableProperty& property, const Subject& subject,
         property.choices.push_back(translated(choice));
     }
     property.text = [kept] { return kept.field.kind->text(kept.field); };
-    if (kept.field.kind->isTyped() && !description.isReadOnly) {
+    if (kept.field.kind->isTyped() && !description.behaviour->isReadOnly) {
         property.setText = [kept, subject, id = description.property](std::wstring_view typed) {
             State state = kept.field.kind->setText(kept.field, typed);
             if (state) {
@@ -98,15 +98,16 @@ void ListingForm::take(Description& description) {
     property.name = description.name;
     property.displayName = displayNameOf(description);
     property.property = owner().propertyHandle(description.property);
-    property.toolTip =
-        description.toolTip.empty() ? std::wstring() : translated(description.toolTip);
+    property.toolTip = description.behaviour->toolTip.empty()
+                           ? std::wstring()
+                           : translated(description.behaviour->toolTip);
     if (description.subject == Derived) {
-        property.text = std::move(description.derivedText);
+        property.text = std::move(description.behaviour->derivedText);
     } else {
         property.editor = description.field.kind->editor();
         addValue(property, subject(), description);
         if (description.rows != nullptr) {
-            addRows(property, *description.rows, description.isReadOnly);
+            addRows(property, *description.rows, description.behaviour->isReadOnly);
         }
     }
     callback_(property);

@@ -1,57 +1,97 @@
 #include "LoadingForm.hpp"
 
-#include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/json/decoder/Value.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>
 
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
 namespace corvane::workbench::kit::internal {
 
-void LoadingForm::load(utils::json::decoder::Object& object, config::Context& context) {
+namespace {
+
+namespace decoder = utils::json::decoder;
+
+/// Where settings are found that come in another order than they are described in.
+class SettingsByName final : public Form {
+public:
+    explicit SettingsByName(const Subject& subject) : Form(subject, Purpose::Recheck) { fillIn(); }
+
+    /// Null when there is none of that name.
+    [[nodiscard]] const Field* find(std::string_view name) const {
+        const auto found = std::ranges::find(settings_, name, &Setting::name);
+        return found == settings_.end() ? nullptr : &found->field;
+    }
+
+private:
+    struct Setting {
+        std::string_view name;
+        Field field;
+    };
+
+    void take(Description& description) override {
+        if (description.subject == Description::Subject::Setting) {
+            settings_.push_back({.name = description.name, .field = description.field});
+        }
+    }
+
+    std::vector<Setting> settings_;
+};
+
+} // namespace
+
+void LoadingForm::load(decoder::Object& object) {
+    object_ = &object;
     fillIn();
-    read(object, context);
+    readOthers();
 }
 
-void LoadingForm::load(utils::json::decoder::Value& value, config::Context& context) {
+void LoadingForm::load(decoder::Value& row) {
+    row_ = &row;
+    if (row.isObject()) {
+        decoder::Object object = row.asObject();
+        object_ = &object;
+        fillIn();
+        if (!isWrittenAsValue_) {
+            readOthers();
+        }
+        return;
+    }
     fillIn();
-    if (isWrittenAsValue_ && entries_.size() == 1) {
-        entries_.front().field.kind->read(entries_.front().field, value, context);
-    } else {
-        utils::json::decoder::Object object = value.asObject();
-        read(object, context);
+    if (!isWrittenAsValue_) {
+        static_cast<void>(row.asObject()); // says that it is none
     }
 }
 
 void LoadingForm::take(Description& description) {
-    if (description.subject == Description::Subject::Setting) {
-        entries_.push_back({.name = description.name, .field = description.field});
+    if (description.subject != Description::Subject::Setting) {
+        return;
+    }
+    const Field& field = description.field;
+    if (isWrittenAsValue_) {
+        field.kind->read(field, *row_, context_);
+    } else if (object_ != nullptr) {
+        auto member = object_->begin();
+        if (member != object_->end() && (*member).name == std::string_view(description.name)) {
+            field.kind->read(field, (*member).value, context_);
+            ++member;
+        }
     }
 }
 
-void LoadingForm::read(utils::json::decoder::Object& object, config::Context& context) const {
-    std::size_t expected = 0;
-    for (const auto& [name, value] : object) {
-        const Entry* const entry = find(name, expected);
-        if (entry == nullptr) {
+void LoadingForm::readOthers() {
+    if (object_->begin() == object_->end()) {
+        return;
+    }
+    const SettingsByName settings(subject());
+    for (const auto& [name, value] : *object_) {
+        const Field* const field = settings.find(name.text());
+        if (field == nullptr) {
             config::throwUnknownParameterError(name);
         }
-        entry->field.kind->read(entry->field, value, context);
-        expected = static_cast<std::size_t>(entry - entries_.data()) + 1;
+        field->kind->read(*field, value, context_);
     }
-}
-
-// Members mostly come in the order of the description, since they were saved in it.
-const LoadingForm::Entry* LoadingForm::find(std::string_view name, std::size_t expected) const {
-    for (std::size_t index = expected; index < entries_.size(); ++index) {
-        if (entries_[index].name == name) {
-            return &entries_[index];
-        }
-    }
-    for (std::size_t index = 0; index < expected; ++index) {
-        if (entries_[index].name == name) {
-            return &entries_[index];
-        }
-    }
-    return nullptr;
 }
 
 } // namespace corvane::workbench::kit::internal

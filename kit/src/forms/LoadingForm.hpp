@@ -1,43 +1,41 @@
 #pragma once
 
+#include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/workbench/kit/Form.hpp>
 
-#include <string_view>
-#include <vector>
-
 namespace corvane::utils::json::decoder {
-class Object;
 class Value;
-} // namespace corvane::utils::json::decoder
+}
 namespace corvane::workbench::config {
 class Context;
 }
 
 namespace corvane::workbench::kit::internal {
 
-/// Gives all settings their initial values and then those that stand in a file.
+/// Gives all settings their initial values, or those that stand in a file. Members mostly come in
+/// the order of the description, since they were saved in it: these are read while the settings are
+/// described, the others afterwards.
 class LoadingForm final : public Form {
 public:
-    explicit LoadingForm(const Subject& subject) : Form(subject, Purpose::Load) {}
+    LoadingForm(const Subject& subject, config::Context& context)
+        : Form(subject, Purpose::Load), context_(context) {}
 
     /// Reads the members of an element's object; throws a located error for one that nothing
     /// describes.
-    void load(utils::json::decoder::Object& object, config::Context& context);
+    void load(utils::json::decoder::Object& object);
     /// Reads a row.
-    void load(utils::json::decoder::Value& value, config::Context& context);
+    void load(utils::json::decoder::Value& value);
 
 private:
-    struct Entry {
-        std::string_view name;
-        Field field;
-    };
-
     void take(Description& description) override;
     void takeWrittenAsValue() override { isWrittenAsValue_ = true; }
-    void read(utils::json::decoder::Object& object, config::Context& context) const;
-    [[nodiscard]] const Entry* find(std::string_view name, std::size_t expected) const;
+    void readOthers();
 
-    std::vector<Entry> entries_;
+    config::Context& context_;
+    /// The members that have not been read yet.
+    utils::json::decoder::Object* object_ = nullptr;
+    /// The row, until it is known whether it is an object.
+    utils::json::decoder::Value* row_ = nullptr;
     bool isWrittenAsValue_ = false;
 };
 

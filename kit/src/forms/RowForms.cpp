@@ -16,7 +16,7 @@ std::wstring NameForm::name() {
 
 void NameForm::take(Description& description) {
     if (description.subject == Description::Subject::DisplayName) {
-        name_ = std::move(description.derivedText);
+        name_ = std::move(description.behaviour->derivedText);
     } else if (description.subject == Description::Subject::Setting && first_.kind == nullptr) {
         first_ = description.field;
     }
@@ -31,7 +31,7 @@ void ProposingForm::propose(Row& row, std::size_t index) {
 
 void ProposingForm::take(Description& description) {
     if (description.rows == &rows_) {
-        proposal_ = std::move(description.proposal);
+        proposal_ = std::move(description.behaviour->proposal);
     }
 }
 

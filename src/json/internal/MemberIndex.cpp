@@ -1,5 +1,7 @@
 #include "MemberIndex.hpp"
 
+#include "KeyedHash.hpp"
+
 #include <bit>
 #include <functional>
 #include <string>
@@ -22,11 +24,16 @@ std::size_t MemberIndex::search(std::string_view name) const noexcept {
     return kNone;
 }
 
+std::uint64_t MemberIndex::hash(std::string_view name) const {
+    return slots_.size() <= kFewSlots ? std::hash<std::string_view>()(name)
+                                      : KeyedHash::ofThisProcess()(name);
+}
+
 std::size_t MemberIndex::findOrEnterInTable(std::string_view name) {
-    const std::size_t hash = std::hash<std::string_view>()(name);
+    const std::uint64_t hash = this->hash(name);
     const auto shortHash = static_cast<std::uint32_t>(hash >> 32U);
     const std::size_t mask = slots_.size() - 1;
-    for (std::size_t index = hash & mask;; index = (index + 1) & mask) {
+    for (auto index = static_cast<std::size_t>(hash) & mask;; index = (index + 1) & mask) {
         Slot& slot = slots_[index];
         if (slot.position == 0) {
             slot = {static_cast<std::uint32_t>(members_.size() + 1), shortHash};

@@ -13,7 +13,8 @@
 namespace corvane::workbench::json::internal {
 
 /// Finds members of an object by name while the object is built. A small object is searched from
-/// the front; a large one gets a hash table of positions, in one allocation.
+/// the front; a larger one gets a hash table of positions, in one allocation. The names come from
+/// files, so a large table has a hash for which nobody can choose names that collide.
 class MemberIndex {
 public:
     static constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
@@ -29,6 +30,8 @@ public:
 private:
     /// Up to here comparing with every member is faster than hashing.
     static constexpr std::size_t kSmall = 16;
+    /// Up to here even names that all collide cost no more than hashing them well.
+    static constexpr std::size_t kFewSlots = 128;
 
     struct Slot {
         /// Counts from 1; 0 in an empty slot.
@@ -38,6 +41,7 @@ private:
 
     [[nodiscard]] std::size_t search(std::string_view name) const noexcept;
     [[nodiscard]] std::size_t findOrEnterInTable(std::string_view name);
+    [[nodiscard]] std::uint64_t hash(std::string_view name) const;
 
     const Sequence<Object::Member>& members_;
     std::vector<Slot> slots_;

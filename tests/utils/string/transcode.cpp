@@ -54,6 +54,18 @@ TEST(Transcode, FindsCharactersAtEveryPlaceOfABlock) {
     }
 }
 
+TEST(Transcode, ConvertsTextsOfEveryLengthAlike) {
+    std::string narrow;
+    std::wstring wide;
+    for (int character = 0; character != 600; ++character) {
+        narrow += character % 5 == 0 ? "\xE6\xB0\xB4" : character % 7 == 0 ? "\xFF" : "m";
+        wide += static_cast<wchar_t>(character % 5 == 0   ? 0x6C34
+                                     : character % 7 == 0 ? 0xFFFD
+                                                          : 'm');
+        ASSERT_EQ(toWide(narrow), wide) << narrow.size();
+    }
+}
+
 TEST(Transcode, GivesOneReplacementForEachMaximalSubpart) {
     EXPECT_EQ(toWide("\xF0\x9F\x98"), units({0xFFFD}));
     EXPECT_EQ(toWide("\xC3\xC3\xBC"), units({0xFFFD, 0xFC}));

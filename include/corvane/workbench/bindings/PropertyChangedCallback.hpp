@@ -31,8 +31,6 @@ public:
                  (std::invocable<std::decay_t<Callable>&> ||
                   std::invocable<std::decay_t<Callable>&, Action, std::size_t>))
     PropertyChangedCallback(Callable&& callable) {
-        using Detailed = std::function<void(Action, std::size_t)>;
-        using Plain = std::function<void()>;
         if constexpr (std::invocable<std::decay_t<Callable>&, Action, std::size_t>) {
             callback_.template emplace<Detailed>(std::forward<Callable>(callable));
         } else {
@@ -54,8 +52,25 @@ public:
     void operator()() const;
 
 private:
-    std::variant<std::nullptr_t, std::function<void()>, std::function<void(Action, std::size_t)>>
-        callback_;
+    friend class PropertyController;
+
+    using Plain = std::function<void()>;
+    using Detailed = std::function<void(Action, std::size_t)>;
+
+    /// As a call, but does nothing when nothing, or an empty function, is held.
+    void callIfSet(Action action, std::size_t index) const {
+        if (const auto* const detailed = std::get_if<Detailed>(&callback_)) {
+            if (*detailed) [[likely]] {
+                (*detailed)(action, index);
+            }
+        } else if (const auto* const plain = std::get_if<Plain>(&callback_)) {
+            if (*plain) [[likely]] {
+                (*plain)();
+            }
+        }
+    }
+
+    std::variant<std::nullptr_t, Plain, Detailed> callback_;
 };
 
 } // namespace corvane::workbench::bindings

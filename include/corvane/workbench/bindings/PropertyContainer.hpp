@@ -1,7 +1,7 @@
 #pragma once
 
 #include <corvane/utils/core/function_ref.hpp>
-#include <corvane/workbench/bindings/internal/SubscriptionMap.hpp>
+#include <corvane/workbench/bindings/internal/SubscriptionList.hpp>
 #include <corvane/workbench/export.hpp>
 
 #include <cstddef>
@@ -29,10 +29,13 @@ class PropertyId;
 /// starts without them, and assignment changes nothing. The destructor notifies nobody. Unlink a
 /// container and drop the subscriptions to it before destroying it.
 ///
-/// Callbacks may subscribe, unsubscribe, publish, query and relink; they may not destroy the
-/// container that calls them, one that encloses it, or one that takes part in the operation. When a
-/// callback throws, the enclosing containers are still brought up to date and notified, and then
-/// the first exception goes on to the caller.
+/// Callbacks may subscribe, unsubscribe, publish and query; they may not destroy the container that
+/// calls them, one that encloses it, or one that takes part in the operation. Changes of a count
+/// that callbacks make before the enclosing container was told of the first one reach it as one
+/// difference, or not at all if they cancel out. A callback that links a container elsewhere sets
+/// both keep flags and then calls subPropertyContainerListChanged on the former and the new owner;
+/// with other flags a count may be moved twice. When a callback throws, the enclosing containers
+/// are still updated and notified, and then the first exception goes on to the caller.
 ///
 /// Used by one thread at a time.
 class CORVANE_WORKBENCH_EXPORT PropertyContainer {
@@ -59,7 +62,7 @@ public:
     /// from. Must not outlive the container.
     class CORVANE_WORKBENCH_EXPORT ErrorCountSubscription {
     public:
-        /// Keeps the constructor that takes it for those who have its one value.
+        /// Restricts the constructor that takes it to the friends, who can name its one value.
         struct InternalConstructorTag {
             explicit InternalConstructorTag() = default;
         };
@@ -80,7 +83,7 @@ public:
         /// Ends the subscription. Safe in any callback, its own included.
         void reset() noexcept;
         /// Whether there is a subscription.
-        [[nodiscard]] explicit operator bool() const noexcept { return container_ != nullptr; }
+        [[nodiscard]] operator bool() const noexcept { return container_ != nullptr; }
 
     private:
         friend class PropertyContainer;
@@ -116,6 +119,7 @@ public:
 
     /// Links this container below another one, moving its error count from the former enclosing
     /// container to the new one as the options say. Does nothing when it is linked there already.
+    /// Counts this container first; when that throws, nothing has changed.
     /// @pre the given container is not this one nor below it
     void setEnclosingPropertyContainer(PropertyContainer& container,
                                        SetEnclosingPropertyContainerOptions options);
@@ -217,7 +221,7 @@ private:
     // The order of the first three fields is fixed.
     PropertyContainer* enclosingPropertyContainer_ = nullptr;
     std::uint64_t subContainerPropertyErrorCount_ = 0;
-    internal::SubscriptionMap<std::uint64_t, std::function<void()>> errorCountSubscriptions_;
+    internal::SubscriptionList<std::uint64_t, std::function<void()>> errorCountSubscriptions_;
 
     // The part of this container's count that the enclosing container has not been given yet: not
     // zero only while this container's own subscribers hear of a change.

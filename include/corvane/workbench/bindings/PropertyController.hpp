@@ -112,7 +112,7 @@ public:
     /// outlive the controller.
     class CORVANE_WORKBENCH_EXPORT Subscription {
     public:
-        /// Keeps the constructor that takes it for those who have its one value.
+        /// Restricts the constructor that takes it to the friends, who can name its one value.
         struct InternalConstructorTag {
             explicit InternalConstructorTag() = default;
         };
@@ -233,7 +233,9 @@ private:
 
     template <class Publication>
     void publishGlobally(Publication&& publication) const;
-    void updateDependentProperties(const PropertyData& data, PropertyChanges& changes) const;
+    template <class Publication>
+    void publishWithDependents(const PropertyData& data, Publication&& publication) const;
+    PropertyChanges updateDependentProperties(const PropertyData& data) const;
     void publishGlobalChanges(const PropertyChanges& changes) const;
     void publishPropertyErrorCount() const;
     void publishSubPropertyVisibility() const;
@@ -242,8 +244,7 @@ private:
 
     static const PropertyState kDummyState;
 
-    // The order of the fields is fixed. Publishing, const for the caller, keeps its books in the
-    // last two.
+    // The order of the fields is fixed. Publishing, const for the caller, changes the last two.
     bool propertiesConfigured_ = false;
     mutable Table properties_;
     mutable std::size_t cachedPropertyErrorCount_ = 0;

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/bindings/internal/ErrorCounter.hpp>
 #include <corvane/workbench/bindings/internal/PropertyFunction.hpp>
-#include <corvane/workbench/bindings/internal/SubscriptionMap.hpp>
+#include <corvane/workbench/bindings/internal/SubscriptionList.hpp>
 #include <corvane/workbench/export.hpp>
 
 #include <cstddef>
@@ -17,7 +18,8 @@ namespace corvane::workbench::bindings {
 /// the publications return what the controller has to do beyond this property.
 ///
 /// Each publication also exists with a parameter `changes`, to which changes are added as soon as
-/// they are made, so that they are known when a callback throws.
+/// they are made, so that they are known when a callback throws. In a table of properties, a state
+/// that is stored is counted there at once.
 class CORVANE_WORKBENCH_EXPORT PropertyController::PropertyData {
 public:
     /// Replaces functions, raised properties, sub-container and cross reference. Calls nothing.
@@ -80,26 +82,35 @@ public:
     [[nodiscard]] bool empty() const noexcept;
 
 private:
+    friend class internal::PropertyTable<PropertyData>;
+
     class Publishing;
     struct Notification;
+
+    /// Has the table that holds the property count it while its state is an error; null: none does.
+    void countErrorsIn(std::size_t* errors) noexcept {
+        errorCounter_.countIn(errors, !cachedState_.has_value());
+    }
 
     [[nodiscard]] bool updateCachedState() const;
     [[nodiscard]] bool updateCachedVisibility() const;
     [[nodiscard]] bool storeVisibility(bool visible) const noexcept;
     [[nodiscard]] bool storeState(PropertyState&& state) const noexcept;
+    void notifyValue(Action action, std::size_t index) const;
     void notify(const Notification& notification) const;
 
-    // The order of the fields is fixed.
+    // The order of the fields up to the visibility is fixed.
     std::uint32_t publishingFlags_ = 0;
-    mutable internal::PropertyFunction<PropertyState> stateFunction_;
-    mutable internal::PropertyFunction<bool> visibilityFunction_;
+    internal::PropertyFunction<PropertyState> stateFunction_;
+    internal::PropertyFunction<bool> visibilityFunction_;
     std::vector<Dependency> dependentProperties_;
     std::vector<PropertyId> raisedProperties_;
     PropertyContainer* subPropertyContainer_ = nullptr;
     CrossReferenceController* crossReferenceController_ = nullptr;
-    internal::SubscriptionMap<std::size_t, SubscriptionCallbacks> subscriptions_;
+    internal::SubscriptionList<std::size_t, SubscriptionCallbacks> subscriptions_;
     mutable PropertyState cachedState_;
     mutable bool cachedVisibility_ = true;
+    internal::ErrorCounter errorCounter_;
 };
 
 } // namespace corvane::workbench::bindings

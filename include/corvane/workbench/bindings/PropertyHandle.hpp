@@ -21,7 +21,7 @@ namespace corvane::workbench::bindings {
 /// controller), publications do nothing, and subscriptions are empty.
 class CORVANE_WORKBENCH_EXPORT PropertyHandle {
 public:
-    /// Keeps the constructor that takes it for those who have its one value.
+    /// Restricts the constructor that takes it to the friends, who can name its one value.
     struct InternalConstructorTag {
         explicit InternalConstructorTag() = default;
     };
@@ -58,7 +58,7 @@ private:
     static constexpr InternalConstructorTag kInternalConstructor{};
 
     PropertyHandle(InternalConstructorTag, std::reference_wrapper<PropertyController> controller,
-                   const PropertyId& property) noexcept
+                   PropertyId property) noexcept
         : controller_(&controller.get()), property_(property) {}
 
     PropertyController* controller_ = nullptr;

@@ -30,7 +30,7 @@ class PropertyKey;
 /// the owner of the property.
 class CORVANE_WORKBENCH_EXPORT PropertyId {
 public:
-    /// Keeps the constructor that takes it for those who have its one value.
+    /// Restricts the constructor that takes it to the friends, who can name its one value.
     struct InternalConstructorTag {
         explicit InternalConstructorTag() = default;
     };
@@ -39,11 +39,10 @@ public:
     constexpr PropertyId() noexcept = default;
 
     /// Compares both words.
-    [[nodiscard]] friend constexpr bool operator==(const PropertyId&,
-                                                   const PropertyId&) noexcept = default;
+    [[nodiscard]] constexpr bool operator==(const PropertyId&) const noexcept = default;
     /// Orders by the first word, then by the second, both unsigned.
-    [[nodiscard]] friend constexpr std::strong_ordering
-    operator<=>(const PropertyId&, const PropertyId&) noexcept = default;
+    [[nodiscard]] constexpr std::strong_ordering
+    operator<=>(const PropertyId&) const noexcept = default;
 
     /// Whether either word is not zero.
     [[nodiscard]] constexpr explicit operator bool() const noexcept {

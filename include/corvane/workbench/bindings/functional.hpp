@@ -55,7 +55,7 @@ public:
     constexpr explicit Offset(int offset) noexcept : offset_(offset) {}
 
     /// The value for a new entry at `index`, wrapping around on overflow.
-    /// Precondition: `index` is at most the size of `values`; it is not checked.
+    /// @pre `index` is at most the size of `values`; it is not checked
     [[nodiscard]] constexpr int operator()(std::span<const int> values,
                                            std::uint64_t index) const noexcept {
         if (values.empty()) {
@@ -71,7 +71,7 @@ public:
     }
 
     /// The value for a new entry at `index` of a list of doubles.
-    /// Precondition: `index` is at most the size of `values`; it is not checked.
+    /// @pre `index` is at most the size of `values`; it is not checked
     [[nodiscard]] constexpr double operator()(std::span<const double> values,
                                               std::uint64_t index) const noexcept;
 
@@ -87,7 +87,7 @@ public:
     constexpr explicit Offset(double offset) noexcept : offset_(offset) {}
 
     /// The value for a new entry at `index`.
-    /// Precondition: `index` is at most the size of `values`; it is not checked.
+    /// @pre `index` is at most the size of `values`; it is not checked
     [[nodiscard]] constexpr double operator()(std::span<const double> values,
                                               std::uint64_t index) const noexcept {
         if (values.empty()) {

@@ -66,7 +66,7 @@ public:
     /// Compares the two fields: 1000 milliseconds are not 1 second. Use to() to compare lengths.
     friend constexpr bool operator==(const Duration&, const Duration&) noexcept = default;
 
-    /// Reads a number followed by its unit, blanks and tabs between them allowed, UTF-8; a zero
+    /// Reads a number followed by its unit, spaces and tabs between them allowed, UTF-8; a zero
     /// may stand alone and is 0 seconds. Nothing if the text is anything else.
     [[nodiscard]] static std::optional<Duration> parse(std::string_view text) noexcept;
     /// The text that is written to files, UTF-8: "250ms"; "0" for a value of zero.

@@ -28,6 +28,16 @@ namespace corvane::workbench::json {
 
 class Value;
 
+namespace internal {
+
+class MemberIndex;
+
+template <class T>
+concept MemberFilterFunction = std::is_invocable_r_v<bool, T&, const utils::json::decoder::Name&,
+                                                     utils::json::decoder::Value&>;
+
+} // namespace internal
+
 /// A JSON object held in memory: members, each a name and a value, in the order in which they were
 /// read or added. To use the members include json/Value.hpp.
 ///
@@ -106,19 +116,16 @@ public:
     /// @}
 
     /// The same with a filter, which sees each member before it is decoded: true consumes the
-    /// member. It is called as bool(const decoder::Name&, decoder::Value&).
+    /// member. It is called as bool(const decoder::Name&, decoder::Value&), on the object itself,
+    /// and not after this call has ended, in whatever way.
     /// @{
-    template <class Filter>
-        requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
-                                       utils::json::decoder::Value&>
-    void decode(utils::json::decoder::Value& source, const Filter& filter,
+    template <internal::MemberFilterFunction Filter>
+    void decode(utils::json::decoder::Value& source, Filter&& filter,
                 DecodingOptions options = {}) {
         decodeInternal(source, MemberFilter(filter), options);
     }
-    template <class Filter>
-        requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
-                                       utils::json::decoder::Value&>
-    void decode(utils::json::decoder::Object& source, const Filter& filter,
+    template <internal::MemberFilterFunction Filter>
+    void decode(utils::json::decoder::Object& source, Filter&& filter,
                 DecodingOptions options = {}) {
         decodeInternal(source, MemberFilter(filter), options);
     }
@@ -133,11 +140,9 @@ public:
     [[nodiscard]] static tl::expected<Object, std::wstring>
     fromString(std::string_view text, DecodingOptions options = {});
     /// The same with a filter, as for decode().
-    template <class Filter>
-        requires std::is_invocable_r_v<bool, const Filter&, const utils::json::decoder::Name&,
-                                       utils::json::decoder::Value&>
+    template <internal::MemberFilterFunction Filter>
     [[nodiscard]] static tl::expected<Object, std::wstring>
-    fromString(std::string_view text, const Filter& filter, DecodingOptions options = {}) {
+    fromString(std::string_view text, Filter&& filter, DecodingOptions options = {}) {
         return fromStringInternal(text, MemberFilter(filter), options);
     }
     /// The object as a JSON text (UTF-8).
@@ -154,6 +159,8 @@ private:
     void decodeInternal(utils::json::decoder::Object& source, MemberFilter filter,
                         DecodingOptions options);
     void decodeMembers(utils::json::decoder::Object& source, DecodingOptions options);
+    Value& valueOf(const utils::json::decoder::Name& name, internal::MemberIndex& index,
+                   DecodingOptions options);
     static tl::expected<Object, std::wstring>
     fromStringInternal(std::string_view text, MemberFilter filter, DecodingOptions options);
 

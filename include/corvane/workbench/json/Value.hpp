@@ -26,10 +26,21 @@ class Value;
 
 namespace corvane::workbench::json {
 
+namespace internal {
+
+template <class T, class... Types>
+concept OneOf = (std::same_as<T, Types> || ...);
+
+/// A type of whole numbers, of any size; none of characters, and not bool.
+template <class T>
+concept Integer = std::integral<T> && !OneOf<T, bool, char, wchar_t, char8_t, char16_t, char32_t>;
+
+} // namespace internal
+
 /// Any JSON value held in memory, for configuration that is kept without knowing its meaning.
 ///
 /// A value type; not synchronised. Copying, comparing, writing and destroying walk the nested
-/// values recursively: what the decoder accepts (512 levels) fits a stack of 1 MiB.
+/// values recursively: what the decoder accepts (512 levels) fits into 300 KiB of stack.
 class CORVANE_WORKBENCH_EXPORT Value {
 public:
     /// The content of a value that is null.
@@ -67,20 +78,25 @@ public:
     Value(const char* text);
     /// @}
 
-    /// Exactly a bool: pointers and numbers do not become one.
+    Value(std::nullptr_t) = delete;
+    /// Exactly a bool: pointers, numbers and what only converts to one do not become one.
     template <std::same_as<bool> T>
     Value(T boolean) noexcept : boolean_(boolean), kind_(Kind::Boolean) {}
-    /// Signed types become a signed integer, unsigned ones an unsigned integer.
+    /// Signed integer types become a signed integer, unsigned ones an unsigned integer. Characters
+    /// and enumerators are no integers.
     /// @{
-    template <std::signed_integral T>
+    template <internal::Integer T>
+        requires std::signed_integral<T>
     Value(T number) noexcept : signedInteger_(number), kind_(Kind::SignedInteger) {}
-    template <std::unsigned_integral T>
-        requires(!std::same_as<T, bool>)
+    template <internal::Integer T>
+        requires std::unsigned_integral<T>
     Value(T number) noexcept : unsignedInteger_(number), kind_(Kind::UnsignedInteger) {}
     /// @}
 
-    /// Stays a double, also when it is a whole number.
-    Value(double number) noexcept : double_(number), kind_(Kind::Double) {}
+    /// A float or double; a long double would lose digits.
+    template <std::floating_point T>
+        requires(sizeof(T) <= sizeof(double))
+    Value(T number) noexcept : double_(number), kind_(Kind::Double) {}
 
     /// Copies the nested values too.
     Value(const Value& other);

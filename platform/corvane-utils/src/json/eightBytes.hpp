@@ -33,7 +33,7 @@ void store(char* to, Word bytes) noexcept {
 /// quotes, backslashes and what is not ASCII: the highest bit of the first of them is the first one
 /// that is set.
 [[nodiscard]] constexpr std::uint64_t specialBytes(std::uint64_t bytes) noexcept {
-    // Changing one bit makes the quote a blank and of no other plain character a lower one. A
+    // Changing one bit makes the quote a space and of no other plain character a lower one. A
     // borrow may set a bit wrongly, but only behind one that is set rightly.
     static_assert(('"' ^ 0x02) == ' ');
     return (((bytes ^ (0x02 * kOnes)) - 0x21 * kOnes) | ((bytes ^ ('\\' * kOnes)) - kOnes) |

@@ -24,6 +24,19 @@ struct Utf8Sequence {
     if (first < 0x80) {
         return {first, 1, true};
     }
+    const auto available = static_cast<std::size_t>(end - begin);
+    // Most sequences are of two or three bytes and well-formed; the loop below knows all.
+    const auto continuationAt = [&](std::size_t index) { return byteAt(index) ^ 0x80U; };
+    if (first >= 0xE0 && first < 0xF0 && available >= 3) {
+        const char32_t second = continuationAt(1);
+        const char32_t third = continuationAt(2);
+        const char32_t character = ((first & 0x0FU) << 12U) | (second << 6U) | third;
+        if ((second | third) < 0x40 && character >= 0x800 && (character & 0xF800U) != 0xD800) {
+            return {character, 3, true};
+        }
+    } else if (first >= 0xC2 && first < 0xE0 && available >= 2 && continuationAt(1) < 0x40) {
+        return {((first & 0x1FU) << 6U) | continuationAt(1), 2, true};
+    }
     std::uint8_t length = 0;
     std::uint8_t lower = 0x80;
     std::uint8_t upper = 0xBF;
@@ -44,7 +57,6 @@ struct Utf8Sequence {
     } else {
         return {U'\uFFFD', 1, false};
     }
-    const auto available = static_cast<std::size_t>(end - begin);
     for (std::uint8_t index = 1; index != length; ++index) {
         if (index == available || byteAt(index) < lower || byteAt(index) > upper) {
             return {U'\uFFFD', index, false};

@@ -4,6 +4,8 @@
 #include "surrogates.hpp"
 #include <corvane/utils/string/detail/Utf16Encoder.hpp>
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -19,12 +21,8 @@ constexpr std::size_t kBlock = 8;
     return (word & 0x8080808080808080U) == 0;
 }
 
-} // namespace
-
-std::wstring toWide(std::string_view utf8) {
-    // No sequence gives more code units than it has bytes.
-    std::wstring wide(utf8.size(), L'\0');
-    wchar_t* to = wide.data();
+/// Writes no more code units than the text has bytes; returns the end.
+wchar_t* writeWide(std::string_view utf8, wchar_t* to) noexcept {
     const char* from = utf8.data();
     const char* const end = from + utf8.size();
     const detail::Utf16Encoder encoder;
@@ -46,7 +44,18 @@ std::wstring toWide(std::string_view utf8) {
             from += sequence.length;
         } while (from != end && static_cast<unsigned char>(*from) >= 0x80);
     }
-    wide.resize(static_cast<std::size_t>(to - wide.data()));
+    return to;
+}
+
+} // namespace
+
+std::wstring toWide(std::string_view utf8) {
+    std::array<wchar_t, 256> shortText;
+    if (utf8.size() <= shortText.size()) {
+        return {shortText.data(), writeWide(utf8, shortText.data())};
+    }
+    std::wstring wide(utf8.size(), L'\0');
+    wide.resize(static_cast<std::size_t>(writeWide(utf8, wide.data()) - wide.data()));
     return wide;
 }
 
@@ -61,14 +70,14 @@ std::string toUtf8(std::wstring_view utf16) {
         const auto unit = static_cast<char32_t>(*from++);
         if (unit < 0x80) {
             *to++ = static_cast<char>(unit);
+        } else if (unit < 0xD800 || (unit > 0xDFFF && unit <= 0xFFFF)) {
+            to = writeUtf8Sequence(to, unit);
         } else if (isLeadingSurrogate(unit) && from != end &&
                    isTrailingSurrogate(static_cast<char32_t>(*from))) {
             to = writeUtf8Sequence(to, combineSurrogates(unit, static_cast<char32_t>(*from)));
             ++from;
-        } else if (isLeadingSurrogate(unit) || isTrailingSurrogate(unit) || unit > 0xFFFF) {
-            to = writeUtf8Sequence(to, U'\uFFFD');
         } else {
-            to = writeUtf8Sequence(to, unit);
+            to = writeUtf8Sequence(to, U'\uFFFD');
         }
     }
     utf8.resize(static_cast<std::size_t>(to - utf8.data()));

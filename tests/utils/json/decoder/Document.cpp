@@ -45,7 +45,7 @@ TEST(JsonDecoderDocument, ReadsWhatIsLeftOfItsStream) {
     EXPECT_EQ(document.root().location(), Location(1, 1));
 }
 
-TEST(JsonDecoderDocument, FinishesBehindBlanksOnly) {
+TEST(JsonDecoderDocument, FinishesBehindWhitespaceOnly) {
     EXPECT_EQ(syntaxError("[1] \r\n\t "), "nothing thrown");
     EXPECT_EQ(syntaxError("[1] \r\n\t ,"),
               "2:3 JSON syntax error (line 2): unexpected text after the end of the value");

@@ -48,7 +48,7 @@ TEST(JsonGrammar, TextIsOneValueOfAnyKind) {
                     "\"a\"\"b\"", "[]x", "{}\0"s, ",", ":", "]", "}", "//", "#"});
 }
 
-TEST(JsonGrammar, BlanksAreSpaceTabLineFeedAndCarriageReturn) {
+TEST(JsonGrammar, WhitespaceIsSpaceTabLineFeedAndCarriageReturn) {
     expectAccepted({
         {" 1", "i1"},
         {"\t1", "i1"},
@@ -72,7 +72,7 @@ TEST(JsonGrammar, BlanksAreSpaceTabLineFeedAndCarriageReturn) {
                     "[1,\v2]", "[\f]", "\0001"s, "1\0"s, "\b1", "[1\xE3\x80\x80]"});
 }
 
-TEST(JsonGrammar, ByteOrderMarkIsNotABlank) {
+TEST(JsonGrammar, ByteOrderMarkIsNotWhitespace) {
     expectRejected(
         {"\xEF\xBB\xBF{}", "{}\xEF\xBB\xBF", "\xEF\xBB\xBF", "\xFE\xFF\0{\0}"s, "\xFF\xFE{\0}\0"s});
 }

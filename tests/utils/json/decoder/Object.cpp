@@ -173,6 +173,48 @@ TEST(JsonDecoderObject, AFilterAddedDuringTheWalkSeesTheMembersStillToCome) {
     EXPECT_EQ(seen, "bc");
 }
 
+TEST(JsonDecoderObject, AFilterAddedByAFilterSeesTheNextMember) {
+    ParsedText text(R"({"a":1,"b":2,"c":3})");
+    auto object = text.root().asObject();
+    std::string seen;
+    const auto second = [&seen](const Name& name, Value&) {
+        seen += name.text();
+        return false;
+    };
+    const auto first = [&](const Name& name, Value&) {
+        if (name.text() == "a") {
+            for (int count = 0; count != 100; ++count) {
+                object.addFilter(second);
+            }
+        }
+        return name.text() == "c";
+    };
+    object.addFilter(first);
+    EXPECT_EQ(walked(object), "a=i1 b=i2 ");
+    EXPECT_EQ(seen, std::string(100, 'b'));
+}
+
+TEST(JsonDecoderObject, AFilterInAScopeIsCalledWhileTheScopeLives) {
+    ParsedText text(R"({"a":1,"b":2,"c":3})");
+    auto object = text.root().asObject();
+    std::string seen;
+    const auto outer = [&seen](const Name& name, Value&) {
+        seen.append("outer ").append(name.text()).append(", ");
+        return false;
+    };
+    const auto inner = [&seen](const Name& name, Value&) {
+        seen.append("inner ").append(name.text()).append(", ");
+        return false;
+    };
+    const Object::FilterScope outerScope(object, outer);
+    {
+        const Object::FilterScope innerScope(object, inner);
+        (void)object.begin();
+    }
+    ++object.begin();
+    EXPECT_EQ(seen, "outer a, inner a, outer b, ");
+}
+
 TEST(JsonDecoderObject, AFilterMayReadAValueInPart) {
     ParsedText text(R"({"children":[{"x":1},{"y":2}],"a":1})");
     auto object = text.root().asObject();

@@ -46,6 +46,42 @@ TEST(JsonSyntaxError, NamesAControlCharacterByItsCode) {
               "1:2 JSON syntax error (line 1): unexpected control character U+007F");
 }
 
+TEST(JsonSyntaxError, NamesACharacterThatIsNotSeenOrTurnsTheTextRoundByItsCode) {
+    struct Case {
+        const char* character;
+        const char* code;
+    };
+    for (const Case& expected : {
+             Case{"\xC2\x80", "U+0080"},
+             {"\xC2\x9B", "U+009B"}, // begins a command of a terminal
+             {"\xC2\x9F", "U+009F"},
+             {"\xC2\xAD", "U+00AD"},
+             {"\xD8\x9C", "U+061C"},
+             {"\xE2\x80\x8B", "U+200B"},
+             {"\xE2\x80\x8F", "U+200F"},
+             {"\xE2\x80\xA8", "U+2028"},
+             {"\xE2\x80\xAA", "U+202A"},
+             {"\xE2\x80\xAE", "U+202E"},
+             {"\xE2\x81\xA6", "U+2066"},
+             {"\xE2\x81\xA9", "U+2069"},
+             {"\xEF\xBB\xBF", "U+FEFF"},
+             {"\xF3\xA0\x80\xA0", "U+E0020"},
+         }) {
+        EXPECT_EQ(syntaxError("[" + std::string(expected.character) + "]"),
+                  "1:2 JSON syntax error (line 1): unexpected control character " +
+                      std::string(expected.code));
+    }
+}
+
+TEST(JsonSyntaxError, ShowsTheCharactersBesideThoseAsTheyAre) {
+    for (const std::string character :
+         {"\xC2\xA0", "\xC2\xA1", "\xC2\xAE", "\xD8\x9D", "\xE2\x80\x8A", "\xE2\x80\x90",
+          "\xE2\x80\xAF", "\xE2\x81\x9F", "\xE2\x81\xB0", "\xEF\xBC\x81", "\xF0\x9F\x92\xA7"}) {
+        EXPECT_EQ(syntaxError("[" + character + "]"),
+                  "1:2 JSON syntax error (line 1): unexpected character '" + character + "'");
+    }
+}
+
 TEST(JsonSyntaxError, NamesAByteThatIsNotUtf8) {
     EXPECT_EQ(syntaxError("[\n\"ab\xFF\"]"),
               "2:4 JSON syntax error (line 2): malformed UTF-8 at byte 0xFF");
@@ -67,7 +103,7 @@ TEST(JsonSyntaxError, SaysThatTheTextEndsTooSoon) {
 TEST(JsonSyntaxError, SaysThatThereIsNothing) {
     EXPECT_EQ(syntaxError(""), "1:1 JSON syntax error (line 1): the text is empty");
     EXPECT_EQ(syntaxError(" \n\t\r\n "),
-              "3:2 JSON syntax error (line 3): the text holds nothing but blanks");
+              "3:2 JSON syntax error (line 3): the text holds nothing but whitespace");
 }
 
 TEST(JsonSyntaxError, NamesAByteOrderMark) {

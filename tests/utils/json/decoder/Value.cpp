@@ -142,6 +142,52 @@ TEST(JsonDecoderValue, RefusesANumberThatIsNotWhole) {
               "1:1 the number 5e-1 is not a whole number");
 }
 
+TEST(JsonDecoderValue, DecidesIntegersOnTheirDigitsAndNotOnARoundedDouble) {
+    const auto errorOf = [](const std::string& number) {
+        return decoderError([&] { (void)ParsedText(number).root().asInt64(); });
+    };
+    const auto unsignedErrorOf = [](const std::string& number) {
+        return decoderError([&] { (void)ParsedText(number).root().asUInt64(); });
+    };
+    EXPECT_EQ(errorOf("-9223372036854775809"),
+              "1:1 the number -9223372036854775809 is out of range");
+    EXPECT_EQ(errorOf("-9223372036854775808.5"),
+              "1:1 the number -9223372036854775808.5 is not a whole number");
+    EXPECT_EQ(errorOf("9007199254740992.5"),
+              "1:1 the number 9007199254740992.5 is not a whole number");
+    EXPECT_EQ(errorOf("4611686018427387904.25"),
+              "1:1 the number 4611686018427387904.25 is not a whole number");
+    EXPECT_EQ(errorOf("1.00000000000000000001"),
+              "1:1 the number 1.00000000000000000001 is not a whole number");
+    EXPECT_EQ(errorOf("0.99999999999999999999999"),
+              "1:1 the number 0.99999999999999999999999 is not a whole number");
+    EXPECT_EQ(errorOf("9223372036854775807.0000001e0"),
+              "1:1 the number 9223372036854775807.0000001e0 is not a whole number");
+    EXPECT_EQ(unsignedErrorOf("18446744073709551615.5"),
+              "1:1 the number 18446744073709551615.5 is not a whole number");
+    EXPECT_EQ(unsignedErrorOf("18446744073709551616"),
+              "1:1 the number 18446744073709551616 is out of range");
+    EXPECT_EQ(unsignedErrorOf("18446744073709551610e1"),
+              "1:1 the number 18446744073709551610e1 is out of range");
+    EXPECT_EQ(unsignedErrorOf("2e19"), "1:1 the number 2e19 is out of range");
+    EXPECT_EQ(unsignedErrorOf("-0.5"), "1:1 the number -0.5 is not a whole number");
+}
+
+TEST(JsonDecoderValue, GivesAWholeNumberHoweverItIsWritten) {
+    EXPECT_EQ(ParsedText("9223372036854775807.0").root().asInt64(), 9223372036854775807);
+    EXPECT_EQ(ParsedText("9.223372036854775807e18").root().asInt64(), 9223372036854775807);
+    EXPECT_EQ(ParsedText("-92233720368547758080e-1").root().asInt64(),
+              std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(ParsedText("18446744073709551615.00").root().asUInt64(), 18446744073709551615U);
+    EXPECT_EQ(ParsedText("1844674407370955161500000e-5").root().asUInt64(), 18446744073709551615U);
+    EXPECT_EQ(ParsedText("9007199254740993.0").root().asInt64(), 9007199254740993);
+    EXPECT_EQ(ParsedText("12.50E+1").root().asInt64(), 125);
+    EXPECT_EQ(ParsedText("0." + std::string(400, '0') + "7e401").root().asInt64(), 7);
+    EXPECT_EQ(ParsedText("7" + std::string(300, '0') + "e-300").root().asInt64(), 7);
+    EXPECT_EQ(ParsedText("0e99999999999999999999").root().asInt64(), 0);
+    EXPECT_EQ(ParsedText("-0.000").root().asUInt64(), 0U);
+}
+
 TEST(JsonDecoderValue, RefusesANumberThatDoesNotFit) {
     EXPECT_EQ(decoderError([] { (void)ParsedText("9223372036854775808").root().asInt64(); }),
               "1:1 the number 9223372036854775808 is out of range");

@@ -1,78 +1,64 @@
 #pragma once
 
-#include <cstddef>
 #include <functional>
-#include <optional>
+#include <memory>
 #include <utility>
 
 namespace corvane::workbench::bindings::internal {
 
 /// A property's state or visibility function, safe to replace while it runs.
 ///
-/// A std::function, possibly empty. A function that is replaced while it runs is neither destroyed
-/// nor moved before its outermost call has ended; the replacement serves the calls after that.
+/// Takes one pointer; an empty one takes nothing else. A function that is replaced while it runs is
+/// neither destroyed nor moved before its outermost call has ended.
 template <class Result>
 class PropertyFunction {
 public:
-    using Function = std::function<Result()>;
-
-    PropertyFunction() = default;
-    /// Copies what later calls would use.
+    PropertyFunction() noexcept = default;
+    /// An empty std::function makes an empty one.
+    explicit PropertyFunction(std::function<Result()>&& function)
+        : shared_(function ? new Shared{.function = std::move(function)} : nullptr) {}
     PropertyFunction(const PropertyFunction& other)
-        : function_(other.replacement_ ? *other.replacement_ : other.function_) {}
-    PropertyFunction(PropertyFunction&& other) noexcept : function_(std::move(other.function_)) {
-        other.function_ = nullptr;
-    }
-    PropertyFunction& operator=(const PropertyFunction& other) {
-        replace(PropertyFunction(other).function_);
+        : shared_(other ? new Shared{.function = other.shared_->function} : nullptr) {}
+    PropertyFunction(PropertyFunction&& other) noexcept
+        : shared_(std::exchange(other.shared_, nullptr)) {}
+    PropertyFunction& operator=(PropertyFunction other) noexcept {
+        std::swap(shared_, other.shared_);
         return *this;
     }
-    PropertyFunction& operator=(PropertyFunction&& other) noexcept {
-        if (this != &other) {
-            replace(std::exchange(other.function_, nullptr));
-        }
-        return *this;
-    }
-    ~PropertyFunction() = default;
+    ~PropertyFunction() { release(shared_); }
 
-    [[nodiscard]] explicit operator bool() const noexcept { return static_cast<bool>(function_); }
-
-    void replace(Function function) noexcept {
-        if (calls_ != 0) {
-            replacement_ = std::move(function);
-        } else {
-            // The old target dies last, when this object is as it will stay.
-            function_.swap(function);
-        }
-    }
+    [[nodiscard]] explicit operator bool() const noexcept { return shared_ != nullptr; }
 
     /// Calls the function, which must be set.
-    [[nodiscard]] Result operator()() {
-        const Call call(*this);
-        return function_();
+    [[nodiscard]] Result operator()() const {
+        const Call call(*shared_);
+        return shared_->function();
     }
 
 private:
-    class Call {
-    public:
-        explicit Call(PropertyFunction& owner) noexcept : owner_(owner) { ++owner_.calls_; }
-        Call(const Call&) = delete;
-        Call& operator=(const Call&) = delete;
-        ~Call() {
-            if (--owner_.calls_ == 0 && owner_.replacement_) {
-                Function replacement = std::move(*owner_.replacement_);
-                owner_.replacement_.reset();
-                owner_.function_.swap(replacement);
-            }
-        }
-
-    private:
-        PropertyFunction& owner_;
+    struct Shared {
+        std::function<Result()> function;
+        std::size_t users = 1; // the owner and each call
     };
 
-    Function function_;
-    std::optional<Function> replacement_;
-    std::size_t calls_ = 0;
+    class Call {
+    public:
+        explicit Call(Shared& shared) noexcept : shared_(shared) { ++shared_.users; }
+        Call(const Call&) = delete;
+        Call& operator=(const Call&) = delete;
+        ~Call() { release(&shared_); }
+
+    private:
+        Shared& shared_;
+    };
+
+    static void release(Shared* shared) noexcept {
+        if (shared != nullptr && --shared->users == 0) {
+            delete shared;
+        }
+    }
+
+    Shared* shared_ = nullptr;
 };
 
 } // namespace corvane::workbench::bindings::internal

@@ -6,6 +6,8 @@
 #include <corvane/workbench/kit/internal/fieldId.hpp>
 #include <corvane/workbench/skill/Element.hpp>
 
+#include <vector>
+
 namespace corvane::workbench::kit {
 
 template <class T>
@@ -64,8 +66,8 @@ private:
     [[nodiscard]] internal::Subject subject() const noexcept;
     void changed(const bindings::PropertyId& property);
 
-    /// Hears of changes of references and lists on which members depend; mostly empty.
-    Subscription memberDependencies_;
+    /// Hear of changes of references and lists that something follows from; mostly none.
+    std::vector<Subscription> triggers_;
 };
 
 } // namespace corvane::workbench::kit

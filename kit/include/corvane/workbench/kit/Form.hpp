@@ -22,14 +22,16 @@
 #include <corvane/workbench/process/Task.hpp>
 #include <corvane/workbench/process/TaskReference.hpp>
 
+#include <array>
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <memory_resource>
 #include <span>
 #include <string>
 #include <type_traits>
-#include <vector>
 
 namespace corvane::workbench::kit {
 
@@ -134,8 +136,8 @@ public:
         requires std::is_invocable_r_v<std::wstring, Function&>
     Derived derived(Text name, Text displayName, Function function) {
         Derived derived = beginDerived(name, displayName);
-        if (purpose_ == internal::Purpose::List) {
-            current_.derivedText = std::move(function);
+        if (current_.purpose == internal::Purpose::List) {
+            current_.behaviour->derivedText = std::move(function);
         }
         return derived;
     }
@@ -150,8 +152,8 @@ public:
         requires std::is_invocable_r_v<std::wstring, Function&>
     Derived displayName(Function function) {
         Derived derived = beginDisplayName();
-        if (purpose_ == internal::Purpose::Name) {
-            current_.derivedText = std::move(function);
+        if (current_.purpose == internal::Purpose::Name) {
+            current_.behaviour->derivedText = std::move(function);
         }
         return derived;
     }
@@ -179,8 +181,8 @@ public:
 
 protected:
     /// Nothing is described before fillIn().
-    Form(const internal::Subject& subject, internal::Purpose purpose) noexcept
-        : subject_(subject), purpose_(purpose) {}
+    Form(const internal::Subject& subject, internal::Purpose purpose)
+        : subject_(subject), current_(*subject.controller, purpose, memory_) {}
 
     /// What describes itself.
     [[nodiscard]] const internal::Subject& subject() const noexcept { return subject_; }
@@ -195,7 +197,6 @@ protected:
 private:
     template <class T>
     friend class Setting;
-    friend class internal::Handle;
 
     /// Takes a complete description, which the next one overwrites.
     virtual void take(internal::Description& description) = 0;
@@ -204,40 +205,41 @@ private:
 
     template <class T>
     Setting<T> begin(Text name, Text displayName, T& field, const internal::SettingKind& kind) {
-        begin(internal::Description::Subject::Setting, name, displayName);
         if constexpr (std::is_base_of_v<internal::RowList, T>) {
-            current_.rows = &field;
-            current_.field.address = current_.rows;
+            internal::RowList& rows = field;
+            beginSetting(name, displayName, {.address = &rows, .kind = &kind});
+            current_.rows = &rows;
+            current_.property = internal::fieldId(owner(), &field);
+            rows.place(subject_, current_.property);
         } else {
-            current_.field.address = &field;
+            beginSetting(name, displayName, {.address = &field, .kind = &kind});
+            if (current_.identifiesProperties()) {
+                current_.property = internal::fieldId(owner(), &field);
+            }
         }
-        current_.field.kind = &kind;
-        current_.property = internal::fieldId(owner(), &field);
         if constexpr (std::is_base_of_v<bindings::CrossReferenceController, T>) {
-            current_.classified.crossReferenceController = &field;
-        } else if constexpr (std::is_base_of_v<internal::RowList, T>) {
-            field.place(subject_, current_.property);
+            if (current_.behaviour) {
+                current_.behaviour->classified.crossReferenceController = &field;
+            }
         }
-        return Setting<T>(*this, field);
+        return Setting<T>(current_, field);
     }
     void begin(internal::Description::Subject subject, Text name, Text displayName);
+    void beginSetting(Text name, Text displayName, const internal::Field& field);
     /// Has the derived form take what was described last.
     void handOver();
     Derived beginDerived(Text name, Text displayName);
     Derived beginDisplayName();
     void keepChoices(std::span<const Text> texts);
 
-    /// The description that a handle began; throws std::logic_error when another one has begun.
-    [[nodiscard]] internal::Description& described(std::uint32_t serial);
     Member beginMember(internal::Description::Subject subject, Text name, const void* member);
 
     internal::Subject subject_;
-    internal::Purpose purpose_;
-    bool isDescribing_ = false;
-    std::uint32_t serial_ = 0;
+    /// For the lists of the description and the texts of choices: most need no more than this.
+    std::array<std::byte, 512> buffer_;
+    std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
     internal::Description current_;
-    /// The texts of each choice so far.
-    std::vector<std::vector<Text>> choices_;
+    std::uint32_t count_ = 0;
 };
 
 } // namespace corvane::workbench::kit

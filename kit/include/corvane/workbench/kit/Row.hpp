@@ -6,6 +6,7 @@
 #include <corvane/workbench/skill/SubElement.hpp>
 
 #include <string>
+#include <vector>
 
 namespace corvane::workbench::kit {
 
@@ -70,6 +71,8 @@ private:
     void changed(const bindings::PropertyId& property);
 
     const internal::RowList* list_ = nullptr;
+    /// Hear of changes of references and lists that something follows from; mostly none.
+    std::vector<Subscription> triggers_;
 };
 
 } // namespace corvane::workbench::kit

@@ -82,6 +82,10 @@ public:
     /// Inserts a new row before the index, with its initial values and what the list proposes, and
     /// publishes the list. Throws std::out_of_range beyond the end.
     R& insert(std::size_t index) { return static_cast<R&>(insertRow(index)); }
+    /// Inserts a copy of a row of this or another list.
+    R& insertCopy(std::size_t index, const R& original) {
+        return static_cast<R&>(insertRow(index, std::make_unique<R>(original)));
+    }
     /// Removes the row and publishes the list. Throws std::out_of_range for a row that is not
     /// there.
     void remove(std::size_t index) { removeRow(index); }

@@ -76,17 +76,23 @@ public:
 
     /// The unit, shown behind the display name in parentheses.
     Setting unit(Text unit) const {
-        description().unit = unit;
+        if (auto& behaviour = description().behaviour) {
+            behaviour->unit = unit;
+        }
         return *this;
     }
     /// A sentence that explains the setting to the user.
     Setting toolTip(Text sentence) const {
-        description().toolTip = sentence;
+        if (auto& behaviour = description().behaviour) {
+            behaviour->toolTip = sentence;
+        }
         return *this;
     }
     /// The user sees the value but cannot set it.
     Setting readOnly() const {
-        description().isReadOnly = true;
+        if (auto& behaviour = description().behaviour) {
+            behaviour->isReadOnly = true;
+        }
         return *this;
     }
 
@@ -102,10 +108,10 @@ public:
     Setting rule(Condition condition, Text message, const Dependencies&... dependencies) const {
         if (purpose() == internal::Purpose::Configure) {
             if constexpr (std::predicate<Condition&>) {
-                description().rules.emplace_back(
+                description().behaviour->rules.emplace_back(
                     internal::ConditionRule<Condition>{std::move(condition), message.data()});
             } else {
-                description().rules.emplace_back(internal::ValueRule<Condition, T>{
+                description().behaviour->rules.emplace_back(internal::ValueRule<Condition, T>{
                     std::move(condition), field_, message.data()});
             }
         }
@@ -116,7 +122,7 @@ public:
         requires std::same_as<std::invoke_result_t<Function&>, State>
     Setting rule(Function function, const Dependencies&... dependencies) const {
         if (purpose() == internal::Purpose::Configure) {
-            description().rules.emplace_back(std::move(function));
+            description().behaviour->rules.emplace_back(std::move(function));
         }
         return dependingOn(dependencies...);
     }
@@ -125,7 +131,7 @@ public:
         requires kIsNumber
     {
         if (purpose() == internal::Purpose::Configure) {
-            description().rules.emplace_back(
+            description().behaviour->rules.emplace_back(
                 internal::rangeRule(*field_, lowest, highest, message.data()));
         }
         return *this;
@@ -134,9 +140,10 @@ public:
     Setting required(Text message = "Enter a value.") const {
         if (purpose() == internal::Purpose::Configure) {
             internal::Description& description = this->description();
-            description.rules.insert(description.rules.begin(),
-                                     internal::requiredRule(description.field, message));
-            description.isRequired = true;
+            description.behaviour->rules.insert(
+                description.behaviour->rules.begin(),
+                internal::ValueRule<internal::IsNotEmpty<T>, T>{{}, field_, message.data()});
+            description.behaviour->isRequired = true;
         }
         return *this;
     }
@@ -151,10 +158,10 @@ public:
         if (purpose() == internal::Purpose::Save) {
             description().isVisible = condition();
         } else if (purpose() == internal::Purpose::Configure) {
-            description().visibility = std::move(condition);
+            description().behaviour->visibility = std::move(condition);
         }
         if (wantsDependencies()) {
-            add(description().visibilityDependencies, dependencies...);
+            add(description().behaviour->visibilityDependencies, dependencies...);
         }
         return *this;
     }
@@ -178,7 +185,7 @@ public:
     template <class... Dependencies>
     Setting follows(const Dependencies&... dependencies) const {
         if (wantsDependencies()) {
-            add(description().valueDependencies, dependencies...);
+            add(description().behaviour->valueDependencies, dependencies...);
         }
         return *this;
     }
@@ -186,17 +193,18 @@ public:
     /// settings publish its list without being told.
     Setting raises(const bindings::PropertyId& property) const {
         if (purpose() == internal::Purpose::Configure) {
-            description().raisedProperties.push_back(property);
+            description().behaviour->raisedProperties.push_back(property);
         }
         return *this;
     }
-    /// What is done after a change by the user, or by changed(), when everybody has heard of it.
+    /// What is done after a change by the user, or by changed(), when everybody has heard of it. A
+    /// reference and a list of rows also change otherwise: for them it is done after each change,
+    /// when their subscribers have heard of it.
     template <std::invocable Action>
-    Setting then(Action action) const
-        requires(!kIsReference && !kIsRows)
-    {
-        if (purpose() == internal::Purpose::Change) {
-            description().actions.emplace_back(std::move(action));
+    Setting then(Action action) const {
+        if (purpose() ==
+            (kChangesByItself<T> ? internal::Purpose::Configure : internal::Purpose::Change)) {
+            description().behaviour->actions.emplace_back(std::move(action));
         }
         return *this;
     }
@@ -224,7 +232,9 @@ public:
     Setting optional() const
         requires kIsReference
     {
-        description().isOptional = true;
+        if (auto& behaviour = description().behaviour) {
+            behaviour->isOptional = true;
+        }
         return *this;
     }
     /// The reference leads to an element of the class, or to a member of one. A message may have a
@@ -233,7 +243,7 @@ public:
         requires kIsReference
     {
         if (purpose() == internal::Purpose::Configure) {
-            description().rules.emplace_back(
+            description().behaviour->rules.emplace_back(
                 internal::classRule(*field_, elementClass, message.data()));
         }
         return *this;
@@ -243,7 +253,7 @@ public:
         requires kIsReference
     {
         if (purpose() == internal::Purpose::Configure) {
-            description().rules.emplace_back(
+            description().behaviour->rules.emplace_back(
                 internal::categoryRule(*field_, categories, message.data()));
         }
         return *this;
@@ -255,7 +265,8 @@ public:
         requires(kIsRows && std::same_as<typename T::RowType, RowType>)
     {
         if (purpose() == internal::Purpose::Propose) {
-            description().proposal = [field, step, rows = field_](Row& row, std::size_t index) {
+            description().behaviour->proposal = [field, step, rows = field_](Row& row,
+                                                                             std::size_t index) {
                 static_cast<RowType&>(row).*field =
                     rows->next(field, index, internal::valueOf(step));
             };
@@ -268,7 +279,8 @@ public:
         requires(kIsRows && std::invocable<Function&, typename T::RowType&, std::size_t>)
     {
         if (purpose() == internal::Purpose::Propose) {
-            description().proposal = [prepare = std::move(prepare)](Row& row, std::size_t index) {
+            description().behaviour->proposal = [prepare = std::move(prepare)](Row& row,
+                                                                               std::size_t index) {
                 prepare(static_cast<typename T::RowType&>(row), index);
             };
         }
@@ -279,12 +291,13 @@ public:
 
 private:
     friend class Form;
-    Setting(Form& form, T& field) noexcept : Handle(form), field_(&field) {}
+    Setting(internal::Description& description, T& field) noexcept
+        : Handle(description), field_(&field) {}
 
     template <class... Dependencies>
     Setting dependingOn(const Dependencies&... dependencies) const {
         if (wantsDependencies()) {
-            add(description().stateDependencies, dependencies...);
+            add(description().behaviour->stateDependencies, dependencies...);
         }
         return *this;
     }
@@ -299,7 +312,7 @@ public:
     template <class... Dependencies>
     Derived follows(const Dependencies&... dependencies) const {
         if (wantsDependencies()) {
-            add(description().valueDependencies, dependencies...);
+            add(description().behaviour->valueDependencies, dependencies...);
         }
         return *this;
     }
@@ -307,21 +320,25 @@ public:
     template <std::predicate Condition, class... Dependencies>
     Derived visibleIf(Condition condition, const Dependencies&... dependencies) const {
         if (purpose() == internal::Purpose::Configure) {
-            description().visibility = std::move(condition);
+            description().behaviour->visibility = std::move(condition);
         }
         if (wantsDependencies()) {
-            add(description().visibilityDependencies, dependencies...);
+            add(description().behaviour->visibilityDependencies, dependencies...);
         }
         return *this;
     }
     /// The unit, shown behind the display name in parentheses.
     Derived unit(Text unit) const {
-        description().unit = unit;
+        if (auto& behaviour = description().behaviour) {
+            behaviour->unit = unit;
+        }
         return *this;
     }
     /// A sentence that explains it to the user.
     Derived toolTip(Text sentence) const {
-        description().toolTip = sentence;
+        if (auto& behaviour = description().behaviour) {
+            behaviour->toolTip = sentence;
+        }
         return *this;
     }
 
@@ -350,7 +367,7 @@ public:
             (addIfItIsSet(dependencies), ...);
             break;
         case internal::Purpose::Check:
-            add(description().memberDependencies, dependencies...);
+            add(description().behaviour->memberDependencies, dependencies...);
             break;
         default:
             break;
@@ -365,13 +382,13 @@ private:
     template <class T>
     void addIfItChangesByItself(const T& dependency) const {
         if constexpr (kChangesByItself<T>) {
-            add(description().memberDependencies, dependency);
+            add(description().behaviour->memberDependencies, dependency);
         }
     }
     template <class T>
     void addIfItIsSet(const T& dependency) const {
         if constexpr (!kChangesByItself<T>) {
-            add(description().memberDependencies, dependency);
+            add(description().behaviour->memberDependencies, dependency);
         }
     }
 };

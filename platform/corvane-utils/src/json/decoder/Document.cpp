@@ -1,8 +1,8 @@
 #include <corvane/utils/json/decoder/Document.hpp>
 
 #include "Scanner.hpp"
-#include "blanks.hpp"
 #include "syntaxError.hpp"
+#include "whitespace.hpp"
 
 namespace corvane::utils::json::decoder {
 
@@ -13,7 +13,7 @@ Document::~Document() = default;
 
 void Document::finish() const {
     std::size_t position = rootEnd_;
-    while (position != tape_.text.size() && detail::isBlank(tape_.text[position])) {
+    while (position != tape_.text.size() && detail::isWhitespace(tape_.text[position])) {
         ++position;
     }
     if (position != tape_.text.size()) {

@@ -1,7 +1,5 @@
 #include <corvane/utils/json/decoder/Object.hpp>
 
-#include <algorithm>
-
 namespace corvane::utils::json::decoder {
 
 Location Object::location() const {
@@ -9,8 +7,15 @@ Location Object::location() const {
 }
 
 bool Object::isConsumed() {
-    return std::any_of(filters_.begin(), filters_.end(),
-                       [this](const Filter& filter) { return filter(name_, value_); });
+    // A filter may add others, which the next member is the first to meet.
+    const std::size_t count = filters_.size();
+    for (std::size_t index = 0; index != count; ++index) {
+        const Filter filter = filters_[index];
+        if (filter(name_, value_)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace corvane::utils::json::decoder

@@ -4,9 +4,9 @@
 #include "../../string/surrogates.hpp"
 #include "../eightBytes.hpp"
 #include "../plainText.hpp"
-#include "blanks.hpp"
 #include "scanNumber.hpp"
 #include "syntaxError.hpp"
+#include "whitespace.hpp"
 
 #include <algorithm>
 #include <array>
@@ -47,8 +47,8 @@ void Scanner::checkBeginning() const {
     if (tape_.text.empty()) {
         fail(begin_, "the text is empty");
     }
-    if (std::all_of(begin_, end_, isBlank)) {
-        fail(end_, "the text holds nothing but blanks");
+    if (std::all_of(begin_, end_, isWhitespace)) {
+        fail(end_, "the text holds nothing but whitespace");
     }
     if (tape_.text.size() >= std::numeric_limits<std::uint32_t>::max()) {
         fail(begin_, "the text is longer than 4 GiB");
@@ -59,17 +59,17 @@ void Scanner::checkBeginning() const {
 /// the beginning, up to its first value, and then that value likewise.
 void Scanner::scanValue() {
     for (;;) {
-        switch (skipBlanks()) {
+        switch (skipWhitespace()) {
         case '{':
             openContainer(TokenKind::Object, '}');
-            if (skipBlanks() == level_->end) {
+            if (skipWhitespace() == level_->end) {
                 return closeContainer();
             }
             scanName();
             continue;
         case '[':
             openContainer(TokenKind::Array, ']');
-            if (skipBlanks() == level_->end) {
+            if (skipWhitespace() == level_->end) {
                 return closeContainer();
             }
             ++level_->count;
@@ -91,13 +91,13 @@ void Scanner::scanValue() {
 /// Goes from behind a value to the next one, out of all that is complete; false behind the root.
 bool Scanner::goToNextValue() {
     while (level_ != levels_.data()) {
-        const char next = skipBlanks();
+        const char next = skipWhitespace();
         if (next == ',') {
             ++position_;
             if (level_->end == ']') {
                 ++level_->count;
             } else {
-                skipBlanks();
+                skipWhitespace();
                 scanName();
             }
             return true;
@@ -131,7 +131,7 @@ void Scanner::scanName() {
         failUnexpected(position_);
     }
     scanString();
-    if (skipBlanks() != ':') {
+    if (skipWhitespace() != ':') {
         failUnexpected(position_);
     }
     ++position_;
@@ -301,9 +301,9 @@ void Scanner::grow() {
     limit_ = tape_.words.get() + capacity;
 }
 
-void Scanner::skipBlankRun() noexcept {
+void Scanner::skipWhitespaceRun() noexcept {
     const char* position = position_;
-    for (; position != end_ && isBlank(*position); ++position) {
+    for (; position != end_ && isWhitespace(*position); ++position) {
         if (*position != '\n') {
             continue;
         }

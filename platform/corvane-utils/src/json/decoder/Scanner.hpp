@@ -57,14 +57,14 @@ private:
     [[nodiscard]] std::uint32_t tapeSize() const noexcept {
         return static_cast<std::uint32_t>(next_ - tape_.words.get());
     }
-    /// Goes behind the blanks and returns what peek() does there.
-    char skipBlanks() noexcept {
+    /// Goes behind whitespace and returns what peek() does there.
+    char skipWhitespace() noexcept {
         if (position_ != end_ && *position_ <= ' ') {
-            skipBlankRun();
+            skipWhitespaceRun();
         }
         return peek();
     }
-    void skipBlankRun() noexcept;
+    void skipWhitespaceRun() noexcept;
     /// The next character, or a null character at the end of the text.
     [[nodiscard]] char peek() const noexcept { return position_ == end_ ? '\0' : *position_; }
     [[nodiscard]] std::uint32_t offsetOf(const char* place) const noexcept {

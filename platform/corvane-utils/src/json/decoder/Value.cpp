@@ -1,31 +1,28 @@
 #include <corvane/utils/json/decoder/Value.hpp>
 
+#include "exactInteger.hpp"
 #include <corvane/utils/json/decoder/detail/WrappedException.hpp>
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 namespace corvane::utils::json::decoder {
 
 namespace {
 
-/// The number's text, shortened when it is too long for a message.
-[[nodiscard]] std::string numberText(std::string_view fromNumber) {
-    constexpr std::size_t kLimit = 40;
-    const std::size_t length =
-        std::min(fromNumber.find_first_not_of("+-.0123456789eE"), fromNumber.size());
-    std::string text(fromNumber.substr(0, std::min(length, kLimit)));
-    return length > kLimit ? text + "..." : text;
+/// The number at the beginning of a text.
+[[nodiscard]] std::string_view numberAt(std::string_view text) noexcept {
+    return text.substr(0, text.find_first_not_of("+-.0123456789eE"));
 }
 
 [[noreturn]] void throwRangeError(const Location& location, std::string_view number,
                                   std::string_view reason) {
+    constexpr std::size_t limit = 40;
     std::string text = "the number ";
-    text.append(number).append(reason);
+    text.append(number.substr(0, limit)).append(number.size() > limit ? "..." : "").append(reason);
     throw detail::WrappedException<std::out_of_range>(location, std::out_of_range(text));
 }
 
@@ -44,23 +41,27 @@ public:
         return static_cast<T>(number);
     }
 
-    [[nodiscard]] T operator()(double number) const {
-        if (std::trunc(number) != number) {
+    /// A double is the number rounded: its digits decide.
+    [[nodiscard]] T operator()(double) const {
+        const auto [outcome, magnitude, isNegative] = detail::readExactInteger(text());
+        if (outcome == detail::ExactInteger::Outcome::Fraction) {
             fail(" is not a whole number");
         }
-        // Powers of two are exact as doubles; the type's largest value may not be.
-        const double limit = std::ldexp(1.0, std::numeric_limits<T>::digits);
-        const double lowest = std::numeric_limits<T>::is_signed ? -limit : 0.0;
-        if (number < lowest || number >= limit) {
+        constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<T>::max());
+        constexpr std::uint64_t largestNegative = std::is_signed_v<T> ? largest + 1 : 0;
+        if (outcome == detail::ExactInteger::Outcome::OutOfRange ||
+            magnitude > (isNegative ? largestNegative : largest)) {
             fail(" is out of range");
         }
-        return static_cast<T>(number);
+        return static_cast<T>(isNegative ? 0 - magnitude : magnitude);
     }
 
 private:
+    [[nodiscard]] std::string_view text() const noexcept {
+        return numberAt(tape_.text.substr(tape_.offset(index_)));
+    }
     [[noreturn]] void fail(std::string_view reason) const {
-        throwRangeError(tape_.location(index_), numberText(tape_.text.substr(tape_.offset(index_))),
-                        reason);
+        throwRangeError(tape_.location(index_), text(), reason);
     }
 
     const detail::Tape& tape_;

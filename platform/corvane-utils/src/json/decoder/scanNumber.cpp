@@ -1,7 +1,8 @@
 #include "scanNumber.hpp"
 
-#include "../../numeric/nearestDouble.hpp"
 #include "../eightBytes.hpp"
+
+#include <fast_float/fast_float.h>
 
 #include <algorithm>
 #include <array>
@@ -9,7 +10,6 @@
 #include <charconv>
 #include <cstddef>
 #include <limits>
-#include <optional>
 #include <system_error>
 
 namespace corvane::utils::json::decoder::detail {
@@ -88,38 +88,37 @@ inline bool skipManyDigits(Rest& rest, Digits& digits) noexcept {
 }
 
 /// Adds the exponent that comes next and skips it; false when it is incomplete.
-[[nodiscard]] bool skipExponent(Rest& rest, int& exponent) noexcept {
+[[nodiscard]] bool skipExponent(Rest& rest, std::int64_t& exponent) noexcept {
     const bool isNegative = rest.startsWith('-');
     rest.skipEither('-', '+');
-    Digits digits;
-    if (!skipDigits(rest, digits)) {
+    if (!rest.startsWithDigit()) {
         return false;
     }
-    // Beyond every double.
-    constexpr std::uint64_t huge = 100'000;
-    const auto magnitude =
-        static_cast<int>(digits.areExact() ? std::min(digits.value, huge) : huge);
+    constexpr std::int64_t beyondEveryDouble = 100'000;
+    std::int64_t magnitude = 0;
+    for (; rest.startsWithDigit(); rest.skip(1)) {
+        magnitude = std::min(magnitude * 10 + (*rest.begin() - '0'), beyondEveryDouble);
+    }
     exponent += isNegative ? -magnitude : magnitude;
     return true;
 }
 
 /// The number from begin to end, digits × 10^exponent.
 [[nodiscard]] ScannedNumber makeDouble(const char* begin, const char* end, const Digits& digits,
-                                       int exponent) noexcept {
-    std::optional<double> magnitude;
-    if (digits.areExact()) {
-        magnitude = numeric::nearestDouble(digits.value, exponent);
-    }
-    if (magnitude) {
-        const std::uint64_t sign = *begin == '-' ? 1 : 0;
-        return {end, std::bit_cast<std::uint64_t>(*magnitude) | sign << 63U, TokenKind::Double,
-                Outcome::Number};
-    }
+                                       std::int64_t exponent) noexcept {
     double number = 0;
-    if (std::from_chars(begin, end, number).ec != std::errc()) {
-        return {end, 0, TokenKind::Double, Outcome::OutOfRange};
+    fast_float::from_chars_result result{};
+    if (digits.areExact()) {
+        fast_float::parsed_number_string parsed;
+        parsed.mantissa = digits.value;
+        parsed.exponent = exponent;
+        parsed.negative = *begin == '-';
+        result = fast_float::from_chars_advanced(parsed, number);
+    } else {
+        result = fast_float::from_chars(begin, end, number);
     }
-    return {end, std::bit_cast<std::uint64_t>(number), TokenKind::Double, Outcome::Number};
+    return {end, std::bit_cast<std::uint64_t>(number), TokenKind::Double,
+            result.ec == std::errc() ? Outcome::Number : Outcome::OutOfRange};
 }
 
 /// The integer from begin to end.
@@ -155,7 +154,7 @@ ScannedNumber scanNumber(const char* begin, const char* textEnd) noexcept {
     if (*first == '0' && digits.count != 1) {
         return {first + 1};
     }
-    int exponent = 0;
+    std::int64_t exponent = 0;
     const bool hasPoint = rest.startsWith('.');
     if (hasPoint) {
         rest.skip(1);
@@ -163,7 +162,7 @@ ScannedNumber scanNumber(const char* begin, const char* textEnd) noexcept {
         if (!skipManyDigits(rest, digits)) {
             return {rest.begin()};
         }
-        exponent = -static_cast<int>(digits.count - whole);
+        exponent = -static_cast<std::int64_t>(digits.count - whole);
     }
     if (rest.skipEither('e', 'E')) {
         if (!skipExponent(rest, exponent)) {

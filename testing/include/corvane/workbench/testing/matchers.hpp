@@ -30,6 +30,15 @@ namespace internal {
 
 using TextMatcher = ::testing::Matcher<std::string>;
 
+/// Shows the tree of something, without the break at its end: one follows in any case.
+template <class Shown>
+void showTree(const Shown& shown, ::testing::MatchResultListener* listener) {
+    if (listener->IsInterested()) {
+        const std::string tree = shown.tree();
+        *listener << "in\n" << tree.substr(0, tree.find_last_not_of('\n') + 1);
+    }
+}
+
 /// Matches something that a setting has.
 template <class Value>
 class SettingMatcher final : public ::testing::MatcherInterface<const Setting&> {
@@ -43,9 +52,7 @@ public:
     bool MatchAndExplain(const Setting& setting,
                          ::testing::MatchResultListener* listener) const override {
         const bool matches = inner_.Matches(read_(setting));
-        if (listener->IsInterested()) {
-            *listener << "in\n" << setting.tree();
-        }
+        showTree(setting, listener);
         return matches;
     }
     void DescribeTo(std::ostream* to) const override {
@@ -80,9 +87,7 @@ public:
 
     template <class Counted>
     bool MatchAndExplain(const Counted& counted, ::testing::MatchResultListener* listener) const {
-        if (listener->IsInterested()) {
-            *listener << "in\n" << counted.tree();
-        }
+        showTree(counted, listener);
         return inner_.Matches(counted.errorCount());
     }
     void DescribeTo(std::ostream* to) const {

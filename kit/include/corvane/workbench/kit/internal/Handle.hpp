@@ -8,11 +8,6 @@
 
 #include <cstdint>
 #include <type_traits>
-#include <vector>
-
-namespace corvane::workbench::kit {
-class Form;
-}
 
 namespace corvane::workbench::kit::internal {
 
@@ -23,11 +18,18 @@ public:
     [[nodiscard]] const bindings::PropertyId& property() const noexcept { return property_; }
 
 protected:
-    explicit Handle(Form& form) noexcept;
+    explicit Handle(Description& description) noexcept
+        : description_(&description), serial_(description.serial), property_(description.property) {
+    }
 
     /// Throws std::logic_error when the next thing is being described already.
-    [[nodiscard]] Description& description() const;
-    [[nodiscard]] Purpose purpose() const noexcept;
+    [[nodiscard]] Description& description() const {
+        if (description_->serial != serial_) {
+            throwForAnother();
+        }
+        return *description_;
+    }
+    [[nodiscard]] Purpose purpose() const noexcept { return description_->purpose; }
 
     /// Whether the form wants to know what depends on what.
     [[nodiscard]] bool wantsDependencies() const noexcept {
@@ -35,7 +37,8 @@ protected:
     }
     /// Adds the properties of what something depends on: fields or handles.
     template <class... Dependencies>
-    void add(std::vector<bindings::PropertyId>& list, const Dependencies&... dependencies) const {
+    void add(Behaviour::List<bindings::PropertyId>& list,
+             const Dependencies&... dependencies) const {
         (list.push_back(idOf(dependencies)), ...);
     }
     template <class T>
@@ -43,7 +46,7 @@ protected:
         if constexpr (std::is_base_of_v<Handle, T>) {
             return dependency.property();
         } else {
-            return fieldId(owner(), &dependency);
+            return fieldId(*description_->owner, &dependency);
         }
     }
     /// Whether a field is changed by others than its editor: references and lists of rows are.
@@ -53,9 +56,9 @@ protected:
         std::is_base_of_v<bindings::PropertyContainer, T>;
 
 private:
-    [[nodiscard]] const bindings::PropertyController& owner() const noexcept;
+    [[noreturn]] void throwForAnother() const;
 
-    Form* form_;
+    Description* description_;
     std::uint32_t serial_;
     bindings::PropertyId property_;
 };

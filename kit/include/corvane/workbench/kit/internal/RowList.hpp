@@ -38,6 +38,8 @@ public:
     /// Inserts a new row, with its initial values and what is proposed for the place, before the
     /// index, and publishes the list. Throws std::out_of_range beyond the end.
     Row& insertRow(std::size_t index);
+    /// The same with a row that is complete.
+    Row& insertRow(std::size_t index, std::unique_ptr<Row> row);
     /// Removes the row and publishes the list. Throws std::out_of_range for a row that is not
     /// there.
     void removeRow(std::size_t index);

@@ -3,6 +3,7 @@
 // What the state of a described property is made of.
 
 #include <corvane/utils/core/Flags.hpp>
+#include <corvane/workbench/bindings/CrossReferenceController.hpp>
 #include <corvane/workbench/kit/State.hpp>
 #include <corvane/workbench/kit/Text.hpp>
 #include <corvane/workbench/kit/internal/SettingKind.hpp>
@@ -43,6 +44,20 @@ struct ValueRule {
     [[nodiscard]] State operator()() { return condition(*value) ? State() : broken(message); }
 };
 
+/// The condition that a value is not that of an object that has just been made.
+template <class T>
+struct IsNotEmpty {
+    [[nodiscard]] bool operator()(const T& value) const {
+        if constexpr (requires { value.empty(); }) {
+            return !value.empty();
+        } else if constexpr (std::derived_from<T, bindings::CrossReferenceController>) {
+            return static_cast<bool>(value);
+        } else {
+            return !(value == T());
+        }
+    }
+};
+
 [[nodiscard]] State outOfRange(const char* message, double lowest, double highest);
 [[nodiscard]] State outOfRange(const char* message, std::int64_t lowest, std::int64_t highest);
 [[nodiscard]] State outOfRange(const char* message, std::uint64_t lowest, std::uint64_t highest);
@@ -61,7 +76,6 @@ template <class Number>
     };
 }
 
-[[nodiscard]] std::function<State()> requiredRule(const Field& field, Text message);
 [[nodiscard]] std::function<State()>
 classRule(const model::internal::BasicElementReference& reference,
           const skill::Element::Class& elementClass, const char* message);

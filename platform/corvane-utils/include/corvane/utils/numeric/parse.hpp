@@ -18,7 +18,7 @@ struct ParsedDouble {
 };
 
 /// Reads the longest number at the very start of the text, in plain or scientific notation. A
-/// blank or a plus sign in front, "inf", "nan" and hexadecimal forms are not numbers. Fails as
+/// space or a plus sign in front, "inf", "nan" and hexadecimal forms are not numbers. Fails as
 /// well when the number is too large for a double or so small that only zero is left of it.
 [[nodiscard]] CORVANE_UTILS_EXPORT std::optional<ParsedDouble>
 parseDoublePrefix(std::string_view text) noexcept;

@@ -33,7 +33,7 @@ public:
 
     /// Ends the reading.
     /// @throws detail::WrappedException of std::runtime_error, text as above, when something
-    ///         other than blanks follows the root value.
+    ///         other than whitespace follows the root value.
     void finish() const;
 
 private:

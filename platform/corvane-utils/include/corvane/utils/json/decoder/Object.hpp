@@ -69,6 +69,26 @@ public:
     /// out of the walk.
     void addFilter(Filter filter) { filters_.push_back(filter); }
 
+    /// Has a filter, as addFilter() adds it, called no longer than the scope lives. Scopes of one
+    /// object end in the reverse order of their beginning, and before the object.
+    class FilterScope {
+    public:
+        /// Adds the filter, behind those that the object has.
+        FilterScope(Object& object, Filter filter)
+            : object_(object), index_(object.filters_.size()) {
+            object.addFilter(filter);
+        }
+        FilterScope(const FilterScope&) = delete;
+        FilterScope& operator=(const FilterScope&) = delete;
+        ~FilterScope() {
+            object_.filters_.erase(object_.filters_.begin() + static_cast<std::ptrdiff_t>(index_));
+        }
+
+    private:
+        Object& object_;
+        std::size_t index_;
+    };
+
     /// Starts the walk, or stays where it is when it has started.
     [[nodiscard]] Iterator begin() {
         if (!started_) {

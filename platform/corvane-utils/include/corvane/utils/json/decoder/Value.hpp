@@ -85,7 +85,8 @@ public:
     }
     /// @}
 
-    /// The number as that type. A double is accepted when it is a whole number.
+    /// The number as that type, however it is written: "1e3" and "1000.0" are 1000. Its digits
+    /// decide, not the double that it is rounded to.
     /// @throws detail::WrappedException of std::out_of_range when the number has a fraction ("the
     ///         number 1.5 is not a whole number") or does not fit ("the number 1e30 is out of
     ///         range").

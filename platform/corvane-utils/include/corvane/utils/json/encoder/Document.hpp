@@ -15,8 +15,8 @@ class CORVANE_UTILS_EXPORT Document {
 public:
     /// How the text is laid out.
     enum class Format {
-        Compact,  ///< no blank at all
-        Indented, ///< two blanks a level, a line a member or element, a newline at the end
+        Compact,  ///< no whitespace
+        Indented, ///< two spaces a level, a line a member or element, a newline at the end
     };
 
     /// The stream must outlive the document. The document does not close it.

@@ -3,7 +3,7 @@
 namespace corvane::utils::json::decoder::detail {
 
 /// Whether the character may stand between the tokens of a JSON text.
-[[nodiscard]] constexpr bool isBlank(char character) noexcept {
+[[nodiscard]] constexpr bool isWhitespace(char character) noexcept {
     return character == ' ' || character == '\n' || character == '\r' || character == '\t';
 }
 
