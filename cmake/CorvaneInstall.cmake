@@ -3,9 +3,6 @@ include_guard(GLOBAL)
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# Where skills are installed, and where a workbench looks for them.
-set(CORVANE_SKILL_FOLDER "${CMAKE_INSTALL_LIBDIR}/corvane-workbench/skills")
-
 # corvane_install_targets(EXPORT TARGETS target... [DESTINATION folder])
 # Installs targets so that a package finds them in EXPORT.cmake.
 function(corvane_install_targets export)

@@ -31,7 +31,6 @@ install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DATADIR}/corvane-workben
 if(CORVANE_BUILD_TOOLS)
     corvane_install_targets(CorvaneWorkbenchPluginToolsTargets TARGETS skillbench
         DESTINATION "${package_folder}")
-    install(TARGETS pump-station LIBRARY DESTINATION "${CORVANE_SKILL_FOLDER}")
 endif()
 # A Windows program finds libraries in its own folder only.
 corvane_compiler_libraries(compiler_libraries)

@@ -9,27 +9,29 @@ run_package() {
     build tools
     cpack --config build/tools/CPackConfig.cmake >"$package_place/cpack.log" || fail "see $package_place/cpack.log"
     package_archives_hold_everything
-    package_is_found "$checkout/$package_place/unpacked"
-    package_skill_is_built find-package "" "-DCMAKE_PREFIX_PATH=$checkout/$package_place/unpacked"
+    package_is_found "$checkout/$package_place/installed"
+    package_skill_is_built find-package "" "-DCMAKE_PREFIX_PATH=$checkout/$package_place/installed"
     package_skill_is_built add-subdirectory "" "-Dcorvane_source=$checkout"
     package_subproject_adds_nothing "$package_place/add-subdirectory"
+    package_new_skill_is_built new "-DCMAKE_PREFIX_PATH=$checkout/$package_place/installed"
+    play_guide docs/first-skill.md "$package_place/guide"
     package_works_on_windows
-    say "The packages are well; they are in build/tools/packages and build/windows/packages"
+    say "The packages are in build/tools/packages and build/windows/packages; installed: $package_place/installed"
 }
 
 # Unpacks both archives for Linux and lets their programs run where they lie.
 package_archives_hold_everything() {
     local archives=build/tools/packages place=$package_place folder
     say "Unpacking the archives"
-    mkdir -p "$place/unpacked" "$place/deb"
-    tar -xzf "$archives"/*.tar.gz -C "$place/unpacked" --strip-components=1
+    mkdir -p "$place/installed" "$place/deb"
+    tar -xzf "$archives"/*.tar.gz -C "$place/installed" --strip-components=1
     dpkg-deb -x "$archives"/*.deb "$place/deb"
     dpkg-deb -f "$archives"/*.deb Depends | grep -q libexpected-dev || fail "the .deb lacks a dependency"
-    for folder in "$place/unpacked" "$place/deb/usr"; do
+    for folder in "$place/installed" "$place/deb/usr"; do
         "$folder/bin/skillbench" check --skill "$folder/lib/corvane-workbench/skills/pump-station.so" \
             "$folder/share/corvane-workbench/examples/pump-station/configurations/plant.json"
     done
-    diff -r "$place/unpacked" "$place/deb/usr" || fail "the archives differ"
+    diff -r "$place/installed" "$place/deb/usr" || fail "the archives differ"
 }
 
 # CMake and pkg-config find the package; what it does not have is refused in words.
@@ -87,8 +89,18 @@ package_skill_is_built() {
     cmake --build "$place"
     ctest --test-dir "$place" --output-on-failure --no-tests=error
     cmake --install "$place" --prefix "$place/installed" >/dev/null
-    $emulator "${package_skillbench:-$package_place/unpacked/bin/skillbench}" show \
+    $emulator "${package_skillbench:-$package_place/installed/bin/skillbench}" show \
         --skill "$(find "$place/installed" -name 'tank.*')" tests/package/skill/plant.json
+}
+
+# package_new_skill_is_built NAME OPTION...: what `skillbench new` writes is built and tested by its own
+# script, as it stands.
+package_new_skill_is_built() {
+    local place=$package_place/$1
+    shift
+    say "A skill that skillbench has written"
+    "$package_place/installed/bin/skillbench" new line-mixer --class Mixer --in "$place"
+    "$place/line-mixer/ci/run" "$@"
 }
 
 # As part of another project: no tool, no test and no example is built, nothing of ours installed.
@@ -103,9 +115,10 @@ package_subproject_adds_nothing() {
 # The archive for Windows, used by a project that is cross-built and run in Wine.
 package_works_on_windows() {
     local place=$package_place/windows
+    local toolchain=$checkout/$place/lib/cmake/CorvaneWorkbenchPlugin/mingw-w64.cmake
     export WINEPREFIX=$checkout/build/windows/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
     export LC_ALL=C.UTF-8
-    build windows --target skillbench corvane-skill-kit corvane-skill-testing pump-station
+    build windows --target skillbench corvane-skill-kit corvane-skill-testing pump-station first-skill
     cpack --config build/windows/CPackConfig.cmake >"$place.log" || fail "see $place.log"
     mkdir -p "$place"
     cmake -E chdir "$place" cmake -E tar xf "$(find "$checkout/build/windows/packages" -name '*.zip')"
@@ -114,5 +127,15 @@ package_works_on_windows() {
     wine "$place/bin/skillbench.exe" check --skill "$place/lib/corvane-workbench/skills/pump-station.dll" \
         "$place/share/corvane-workbench/examples/pump-station/configurations/plant.json"
     package_skillbench=$place/bin/skillbench.exe package_skill_is_built windows-zip wine \
-        "-DCMAKE_PREFIX_PATH=$checkout/$place" "-DCMAKE_TOOLCHAIN_FILE=$checkout/$place/lib/cmake/CorvaneWorkbenchPlugin/mingw-w64.cmake"
+        "-DCMAKE_PREFIX_PATH=$checkout/$place" "-DCMAKE_TOOLCHAIN_FILE=$toolchain"
+    package_googletest_for_windows
+    package_new_skill_is_built new-for-windows "-DCMAKE_TOOLCHAIN_FILE=$toolchain" \
+        "-DCMAKE_PREFIX_PATH=$checkout/$place;$checkout/$package_place/googletest"
+}
+
+# There is no package of it for the cross compiler.
+package_googletest_for_windows() {
+    cmake -S /usr/src/googletest -B "$package_place/googletest-build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+        "-DCMAKE_TOOLCHAIN_FILE=$toolchain" "-DCMAKE_INSTALL_PREFIX=$checkout/$package_place/googletest" >/dev/null
+    cmake --build "$package_place/googletest-build" --target install >/dev/null
 }

@@ -7,6 +7,7 @@ play_guide() {
     local page=$1 folder=$2
     rm -rf "$folder"
     mkdir -p "$folder"
+    ln -s "$checkout/build" "$folder/build" # as a page names it that begins in a checkout
     awk -v expected="$folder/expected" '
         /^```/ { block = substr($0, 4); next }
         block == "sh" { print $0 " >>\"$log\" 2>&1" }
@@ -20,6 +21,7 @@ play_guide() {
         }' "$page" >"$folder/commands"
     [ -s "$folder/expected" ] || fail "$page has no commands to play"
     (
+        # shellcheck disable=SC2034 # the commands write to it
         log=$(realpath "$folder")/log
         cd "$folder"
         set -e

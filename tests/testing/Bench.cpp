@@ -27,7 +27,7 @@ TEST_F(BenchTest, KnowsTheSkillsThatAreLinkedIntoTheProgram) {
 }
 
 TEST_F(BenchTest, KnowsTheSkillsOfALibrary) {
-    const Bench other(FIRST_SKILL_LIBRARY);
+    const Bench other(SKILL_LIBRARY);
     EXPECT_EQ(other.workbench().skills()[0]->skillClass().id(), "FirstSkill");
 }
 
@@ -114,8 +114,8 @@ TEST_F(BenchTest, LoadsWhatItCanOnRequest) {
 }
 
 TEST_F(BenchTest, LoadsFiles) {
-    Bench other(FIRST_SKILL_LIBRARY);
-    other.loadFile(FIRST_SKILL_CONFIGURATION);
+    Bench other(SKILL_LIBRARY);
+    other.loadFile(SKILL_CONFIGURATION);
     EXPECT_TRUE(other.has("main"));
     EXPECT_THAT(messageOf<Refused>([&] { other.loadFile("no-such-file.json"); }),
                 HasSubstr("no-such-file.json"));

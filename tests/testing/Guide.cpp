@@ -20,7 +20,7 @@ using ::testing::Not;
 
 class Mixer : public ::testing::Test {
 protected:
-    Bench bench{FIRST_SKILL_LIBRARY};
+    Bench bench{SKILL_LIBRARY};
     BenchElement mixer = bench.add("FirstSkill.Mixer", "main");
 };
 
@@ -48,7 +48,7 @@ TEST_F(Mixer, RefusesAMemberThatItDoesNotKnow) {
 }
 
 TEST_F(Mixer, TakesNumbersOnly) {
-    EXPECT_THAT(mixer.at("topSpeed"), Refuses("fast", "Enter a whole number."));
+    EXPECT_THAT(mixer.at("topSpeed"), Refuses("fast", "“fast” is not a whole number."));
 }
 
 TEST_F(Mixer, FollowsItsLeaderThroughARename) {

@@ -5,9 +5,10 @@
 
 #include <fcntl.h>
 #include <io.h>
-#include <shellapi.h>
 #include <stdio.h>
 #include <windows.h>
+// Needs what stands above.
+#include <shellapi.h>
 #else
 #include <unistd.h>
 #endif
