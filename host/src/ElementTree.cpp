@@ -1,6 +1,7 @@
 #include "ElementTree.hpp"
 
 #include "ReferenceProxy.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
@@ -52,7 +53,9 @@ std::unique_ptr<ElementNode> ElementTree::makeNode(ElementNode& parent,
     node->parent_ = &parent;
     claimNewUuid(*node);
     try {
-        skill::internal::ElementAccess::makeDefault(*node->skillElement_);
+        callSkill(
+            CurrentOperation::Kind::MakeDefault,
+            [&] { skill::internal::ElementAccess::makeDefault(*node->skillElement_); }, *node);
         linkProperties(*node, [](ElementNode&) { throw; }, [] {});
     } catch (...) {
         releaseUuids(*node);
@@ -130,7 +133,12 @@ void ElementTree::linkProperties(ElementNode& top, const std::function<void(Elem
     }
     if (top.skillElement_ != nullptr) {
         try {
-            top.skillElement_->setEnclosingPropertyContainer(top.properties_, kUncounted);
+            callSkill(
+                CurrentOperation::Kind::Configure,
+                [&] {
+                    top.skillElement_->setEnclosingPropertyContainer(top.properties_, kUncounted);
+                },
+                top);
         } catch (...) {
             failed(top);
             // It counts as configured now, so that it can be linked.

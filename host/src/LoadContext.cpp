@@ -7,11 +7,12 @@
 #include "referenceData.hpp"
 #include "reservedMembers.hpp"
 #include "resolutionMessage.hpp"
-#include "text.hpp"
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
+#include <corvane/workbench/host/text.hpp>
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
@@ -126,7 +127,8 @@ bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::pat
         *request.reference = request.isMember ? memberReferenceData(tree, request.key, importKeys)
                                               : elementReferenceData(tree, request.key, importKeys);
         if (request.completion) {
-            request.completion();
+            callSkill(CurrentOperation::Kind::ResolveReferences, request.completion,
+                      *request.owner);
         }
         const model::internal::ElementReferenceData& data = request.reference->data();
         if (!data.empty() && !data.isImportReference()) {
