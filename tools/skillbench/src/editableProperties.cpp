@@ -1,6 +1,7 @@
 #include "editableProperties.hpp"
 
 #include "text.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>
@@ -17,12 +18,13 @@ namespace {
 namespace host = workbench::host;
 namespace skill = workbench::skill;
 
+using Operation = host::CurrentOperation::Kind;
 using Callback = utils::core::function_ref<void(const PropertyPlace&)>;
 
-void visit(const skill::EditableProperty& property, const std::string& prefix,
-           skill::SubElement* row, Callback callback) {
+void visit(const host::ElementNode& element, const skill::EditableProperty& property,
+           const std::string& prefix, skill::SubElement* row, Callback callback) {
     const std::string path = prefix + property.name;
-    callback({property, path, row});
+    callback({element, property, path, row});
     if (!property.forEachSubElement) {
         return;
     }
@@ -30,7 +32,7 @@ void visit(const skill::EditableProperty& property, const std::string& prefix,
     const auto visitRow = [&](skill::SubElement& subElement) {
         const std::string rowPrefix = path + "." + std::to_string(index++) + ".";
         const auto visitProperty = [&](const skill::EditableProperty& rowProperty) {
-            visit(rowProperty, rowPrefix, &subElement, callback);
+            visit(element, rowProperty, rowPrefix, &subElement, callback);
         };
         subElement.forEachEditableProperty(visitProperty);
     };
@@ -67,9 +69,11 @@ void forEachElementOf(const host::Workbench& workbench, std::string_view address
 void forEachProperty(const host::ElementNode& element, Callback callback) {
     if (skill::Element* skillElement = element.skillElement()) {
         const auto visitProperty = [&](const skill::EditableProperty& property) {
-            visit(property, {}, nullptr, callback);
+            visit(element, property, {}, nullptr, callback);
         };
-        skillElement->forEachEditableProperty(visitProperty);
+        host::callSkill(
+            Operation::ListProperties,
+            [&] { skillElement->forEachEditableProperty(visitProperty); }, element);
     }
 }
 
@@ -104,8 +108,27 @@ void withProperty(const PropertyAddress& address, Callback callback) {
     forEachProperty(*address.element, look);
 }
 
-std::string valueText(const skill::EditableProperty& property) {
-    return property.text ? onOneLine(property.text()) : std::string();
+bool isVisible(const PropertyPlace& place) {
+    return host::callSkill(
+        Operation::GiveState, [&] { return place.property.property.visible(); }, place.element,
+        place.path);
+}
+
+const workbench::bindings::PropertyController::PropertyState& stateOf(const PropertyPlace& place) {
+    return host::callSkill(
+        Operation::GiveState, [&]() -> auto& { return place.property.property.state(); },
+        place.element, place.path);
+}
+
+std::wstring valueOf(const PropertyPlace& place) {
+    return host::callSkill(
+        Operation::GiveValue,
+        [&] { return place.property.text ? place.property.text() : std::wstring(); }, place.element,
+        place.path);
+}
+
+std::string valueText(const PropertyPlace& place) {
+    return onOneLine(valueOf(place));
 }
 
 } // namespace corvane::skillbench

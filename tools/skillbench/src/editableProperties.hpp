@@ -5,6 +5,7 @@
 // counted from 0 ("alarmLimits.0.high").
 
 #include <corvane/utils/core/function_ref.hpp>
+#include <corvane/workbench/bindings/PropertyController.hpp>
 
 #include <optional>
 #include <string>
@@ -23,6 +24,7 @@ namespace corvane::skillbench {
 
 /// A property that a user may see, as its element describes it.
 struct PropertyPlace {
+    const workbench::host::ElementNode& element;
     const workbench::skill::EditableProperty& property;
     const std::string& path;
     /// The row that holds the property; null when the element itself does.
@@ -53,7 +55,14 @@ findProperty(const workbench::host::Workbench& workbench, std::string_view addre
 void withProperty(const PropertyAddress& address,
                   utils::core::function_ref<void(const PropertyPlace&)> callback);
 
-/// The text of the value as the user sees it, on one line.
-[[nodiscard]] std::string valueText(const workbench::skill::EditableProperty& property);
+// What a property is, asked so that a skill that fails is named.
+
+[[nodiscard]] bool isVisible(const PropertyPlace& place);
+[[nodiscard]] const workbench::bindings::PropertyController::PropertyState&
+stateOf(const PropertyPlace& place);
+/// The text of the value as the user sees it; may have several lines.
+[[nodiscard]] std::wstring valueOf(const PropertyPlace& place);
+/// The same on one line.
+[[nodiscard]] std::string valueText(const PropertyPlace& place);
 
 } // namespace corvane::skillbench

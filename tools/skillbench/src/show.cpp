@@ -5,11 +5,14 @@
 #include "editableProperties.hpp"
 #include "showJson.hpp"
 #include "text.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
 
 #include <cstddef>
 #include <ostream>
+#include <sstream>
+#include <string>
 
 namespace corvane::skillbench {
 
@@ -18,18 +21,22 @@ namespace {
 namespace host = workbench::host;
 namespace skill = workbench::skill;
 
+/// Prints whole lines: a skill that fails while one is being made does not stop in the middle of
+/// it.
 class TreePrinter {
 public:
     explicit TreePrinter(std::ostream& out) : out_(out) {}
 
     void printElement(const host::ElementNode& element) {
-        indent() << onOneLine(element.name()) << "  (" << onOneLine(element.type()) << ", "
-                 << countText(element.properties().propertyErrorCount(), "error") << ")\n";
+        print(onOneLine(element.name()) + "  (" + onOneLine(element.type()) + ", " +
+              countText(element.properties().propertyErrorCount(), "error") + ")");
         ++level_;
-        const auto print = [&](const skill::EditableProperty& property) {
-            printProperty(property);
+        const auto printOwn = [&](const skill::EditableProperty& property) {
+            printProperty(element, property, {});
         };
-        element.skillElement()->forEachEditableProperty(print);
+        host::callSkill(
+            host::CurrentOperation::Kind::ListProperties,
+            [&] { element.skillElement()->forEachEditableProperty(printOwn); }, element);
         printChildren(element);
         --level_;
     }
@@ -41,39 +48,42 @@ public:
     }
 
 private:
-    std::ostream& indent() { return out_ << std::string(2 * level_, ' '); }
+    void print(const std::string& line) const {
+        out_ << std::string(2 * level_, ' ') + line + '\n';
+    }
 
-    void printProperty(const skill::EditableProperty& property) {
-        const auto& state = property.property.state();
-        const bool visible = property.property.visible();
-        indent() << (!visible ? "hidden "
-                     : state  ? "ok     "
-                              : "error  ")
-                 << onOneLine(property.displayName) << ':';
-        if (const std::string value = valueText(property); !value.empty()) {
-            out_ << ' ' << value;
-        }
-        if (!state) {
-            out_ << "  <- " << onOneLine(state.error());
-        }
-        out_ << '\n';
+    void printProperty(const host::ElementNode& element, const skill::EditableProperty& property,
+                       const std::string& prefix) {
+        const std::string path = prefix + property.name;
+        const PropertyPlace place{element, property, path, nullptr};
+        const std::string value = valueText(place);
+        const auto& state = stateOf(place);
+        print(std::string(!isVisible(place) ? "hidden "
+                          : state           ? "ok     "
+                                            : "error  ") +
+              onOneLine(property.displayName) + ':' + (value.empty() ? "" : " ") + value +
+              (state ? std::string() : "  <- " + onOneLine(state.error())));
         if (property.forEachSubElement) {
             std::size_t index = 0;
-            const auto print = [&](skill::SubElement& row) { printRow(row, index++); };
+            const auto printEach = [&](skill::SubElement& row) {
+                printRow(element, row, path, index++);
+            };
             level_ += 4;
-            property.forEachSubElement(print);
+            property.forEachSubElement(printEach);
             level_ -= 4;
         }
     }
 
-    void printRow(skill::SubElement& row, std::size_t index) {
-        indent() << index << ": " << onOneLine(row.displayName()) << "  ("
-                 << countText(row.propertyErrorCount(), "error") << ")\n";
+    void printRow(const host::ElementNode& element, skill::SubElement& row,
+                  const std::string& listPath, std::size_t index) {
+        print(std::to_string(index) + ": " + onOneLine(row.displayName()) + "  (" +
+              countText(row.propertyErrorCount(), "error") + ")");
         ++level_;
-        const auto print = [&](const skill::EditableProperty& property) {
-            printProperty(property);
+        const std::string prefix = listPath + "." + std::to_string(index) + ".";
+        const auto printOwn = [&](const skill::EditableProperty& property) {
+            printProperty(element, property, prefix);
         };
-        row.forEachEditableProperty(print);
+        row.forEachEditableProperty(printOwn);
         --level_;
     }
 
@@ -110,7 +120,10 @@ int show(Arguments arguments, const Streams& streams) {
 
     const OpenConfiguration configuration(configurationArguments, streams);
     if (json) {
-        showJson(configuration, streams.out);
+        // A program gets all or nothing.
+        std::ostringstream whole;
+        showJson(configuration, whole);
+        streams.out << whole.view();
     } else {
         printText(configuration, streams);
     }

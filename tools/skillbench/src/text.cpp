@@ -6,10 +6,6 @@
 
 namespace corvane::skillbench {
 
-std::string inQuotes(std::string_view text) {
-    return "“" + onOneLine(text) + "”";
-}
-
 std::string onOneLine(std::string_view text) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     std::string result;
@@ -43,15 +39,6 @@ std::string padded(std::string_view text, std::size_t width) {
             return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
         }));
     return std::string(text) + std::string(width - std::min(width, characters), ' ');
-}
-
-std::filesystem::path pathOf(std::string_view text) {
-    return std::u8string(text.begin(), text.end());
-}
-
-std::string pathText(const std::filesystem::path& path) {
-    const auto text = path.u8string();
-    return {text.begin(), text.end()};
 }
 
 std::string countText(std::uint64_t count, std::string_view singular) {
