@@ -3,12 +3,13 @@
 #include "ElementTree.hpp"
 #include "LoadContext.hpp"
 #include "reservedMembers.hpp"
-#include "text.hpp"
 #include "treeRules.hpp"
 #include <corvane/utils/json/decoder/Exception.hpp>
 #include <corvane/workbench/config/throwUnknownParameterError.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/host/elementName.hpp>
+#include <corvane/workbench/host/text.hpp>
 #include <corvane/workbench/json/DecodingOptions.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
 
@@ -43,8 +44,14 @@ Problem problemOf(const std::exception& exception, const std::filesystem::path& 
         located != nullptr && located->location()) {
         location = located->location();
     }
-    return {file, location.line(), location.column(), Problem::Severity::Error,
-            withoutLine(exception.what())};
+    Problem problem{file, location.line(), location.column(), Problem::Severity::Error,
+                    withoutLine(exception.what())};
+    if (const auto* failure = dynamic_cast<const SkillFailure*>(&exception);
+        failure != nullptr && failure->line() != 0) {
+        problem.line = failure->line();
+        problem.column = failure->column();
+    }
+    return problem;
 }
 
 /// Something wrong with the configuration itself.
@@ -127,9 +134,11 @@ private:
 ConfigurationReader::ConfigurationReader(const ElementClassRegistry& classes,
                                          const LoadOptions& options,
                                          const std::filesystem::path& file, ElementTree& tree,
-                                         LoadContext& context, std::vector<Problem>& problems)
+                                         LoadContext& context, std::vector<Problem>& problems,
+                                         Elements elements)
     : classes_(classes), options_(options), file_(file), tree_(tree), context_(context),
-      problems_(problems), progress_(options.progress, LoadProgress::Stage::Elements, 0) {}
+      problems_(problems), elements_(elements),
+      progress_(options.progress, LoadProgress::Stage::Elements, 0) {}
 
 bool ConfigurationReader::read(const decoder::Value& root) {
     try {
@@ -204,13 +213,18 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
     }
     auto object = value.asObject();
 
-    auto made = ElementTree::makeEmptyNode(parent, *elementClass);
+    auto made = callSkill(
+        CurrentOperation::Kind::Create,
+        [&] { return ElementTree::makeEmptyNode(parent, *elementClass); }, classId.text(),
+        location.line(), location.column());
     if (!made) {
         throw Fault(location, made.error().text);
     }
     std::unique_ptr<ElementNode> node = std::move(*made);
-    node->line_ = location.line();
-    node->column_ = location.column();
+    if (elements_ == Elements::Keep) {
+        node->line_ = location.line();
+        node->column_ = location.column();
+    }
     // UUIDs of a part that is left out may be used by another one.
     struct UuidClaims {
         ElementTree& tree;
@@ -225,19 +239,28 @@ void ConfigurationReader::readElement(ElementNode& parent, const decoder::Name& 
 
     ElementMembers members(*this, *node);
     object.addFilter(members);
-    skill::internal::ElementAccess::load(*node->skillElement_, object, context_);
-    if (givenUp_) {
-        throw GivenUp();
-    }
-    // What the skill did not walk through is unknown to it, and must still pass the filter.
-    for (const auto& member : object) {
-        config::throwUnknownParameterError(member.name);
-    }
+    const bool keeps = elements_ == Elements::Keep;
+    callSkill(
+        keeps ? CurrentOperation::Kind::Load : CurrentOperation::Kind::LoadAgain,
+        [&] {
+            skill::internal::ElementAccess::load(*node->skillElement_, object, context_);
+            if (givenUp_) {
+                throw GivenUp();
+            }
+            // What the skill did not walk through is unknown to it, and must still pass the filter.
+            for (const auto& member : object) {
+                config::throwUnknownParameterError(member.name);
+            }
+        },
+        *node, classId.text());
     if (!members.hasName()) {
         throw Fault(location, "the element has no member \"name\"");
     }
     if (!members.hasUuid()) {
         tree_.claimNewUuid(*node);
+    }
+    if (!keeps) {
+        return;
     }
     frame.keep();
     claims.top = nullptr;

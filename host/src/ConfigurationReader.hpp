@@ -24,9 +24,16 @@ class LoadContext;
 /// children are built on the way.
 class ConfigurationReader {
 public:
+    enum class Elements {
+        Keep,
+        /// Each one ends when it has been read, so that nothing is left in the tree: for trying
+        /// whether a text that has been saved can be loaded. What skills throw names its element.
+        Discard
+    };
+
     ConfigurationReader(const ElementClassRegistry& classes, const LoadOptions& options,
                         const std::filesystem::path& file, ElementTree& tree, LoadContext& context,
-                        std::vector<Problem>& problems);
+                        std::vector<Problem>& problems, Elements elements = Elements::Keep);
 
     /// Fills the tree from the root value. False when the load has ended with a problem.
     [[nodiscard]] bool read(const utils::json::decoder::Value& root);
@@ -50,6 +57,7 @@ private:
     ElementTree& tree_;
     LoadContext& context_;
     std::vector<Problem>& problems_;
+    Elements elements_;
     ProgressReport progress_;
     bool givenUp_ = false;
 };

@@ -1,6 +1,6 @@
 #include <corvane/workbench/host/ElementClassRegistry.hpp>
 
-#include "text.hpp"
+#include <corvane/workbench/host/text.hpp>
 
 #include <stdexcept>
 

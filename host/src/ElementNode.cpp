@@ -2,6 +2,8 @@
 
 #include "ElementTree.hpp"
 #include "ReferenceProxy.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
+#include <corvane/workbench/host/LoadedSkill.hpp>
 #include <corvane/workbench/model/internal/ElementReferenceData.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
 
@@ -35,6 +37,10 @@ ElementNode::~ElementNode() {
     // Children first: their skill elements may still look at their parent's.
     childrenByName_.clear();
     children_.clear();
+    if (skillElement_ != nullptr) {
+        const CurrentOperation operation(CurrentOperation::Kind::Destroy, *this);
+        skillElement_.reset();
+    }
 }
 
 const skill::Element::Class& ElementNode::elementClass() const {
@@ -91,9 +97,12 @@ utils::core::Uuid ElementNode::uuidImpl() const {
 }
 
 std::wstring ElementNode::typeImpl() const {
-    return elementClass_ != nullptr
-               ? elementClass_->displayName()
-               : std::wstring(model::toBasicString<wchar_t>(model::ElementCategory::RootElement));
+    if (elementClass_ == nullptr) {
+        return std::wstring(model::toBasicString<wchar_t>(model::ElementCategory::RootElement));
+    }
+    return callSkill(
+        CurrentOperation::Kind::Describe, [&] { return elementClass_->displayName(); },
+        LoadedSkill::idOfSkillWith(*elementClass_));
 }
 
 model::ElementCategory ElementNode::categoryImpl() const {
@@ -136,20 +145,33 @@ bool ElementNode::forEachAttributeImpl(
             return true;
         }
     }
-    return skill::internal::ElementAccess::forEachAttribute(*skillElement_, callback);
+    return callSkill(
+        CurrentOperation::Kind::ListMembers,
+        [&] { return skill::internal::ElementAccess::forEachAttribute(*skillElement_, callback); },
+        *this);
 }
 
 bool ElementNode::forEachEventImpl(
     const utils::core::function_ref<bool(const process::Event&)>& callback,
     bool /*forwardedFlag*/) const {
     return skillElement_ != nullptr &&
-           skill::internal::ElementAccess::forEachEvent(*skillElement_, callback);
+           callSkill(
+               CurrentOperation::Kind::ListMembers,
+               [&] {
+                   return skill::internal::ElementAccess::forEachEvent(*skillElement_, callback);
+               },
+               *this);
 }
 
 bool ElementNode::forEachTaskImpl(
     const utils::core::function_ref<bool(const process::Task&)>& callback) const {
     return skillElement_ != nullptr &&
-           skill::internal::ElementAccess::forEachTask(*skillElement_, callback);
+           callSkill(
+               CurrentOperation::Kind::ListMembers,
+               [&] {
+                   return skill::internal::ElementAccess::forEachTask(*skillElement_, callback);
+               },
+               *this);
 }
 
 model::ChildElementAccessor ElementNode::childElementsImpl() const {

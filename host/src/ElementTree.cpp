@@ -1,8 +1,9 @@
 #include "ElementTree.hpp"
 
 #include "ReferenceProxy.hpp"
-#include "text.hpp"
 #include "treeRules.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
+#include <corvane/workbench/host/text.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>
 #include <corvane/workbench/skill/AbstractElementFactory.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
@@ -72,7 +73,9 @@ ElementTree::makeNode(ElementNode& parent, const skill::Element::Class& elementC
     node->name_ = std::move(name);
     claimNewUuid(*node);
     try {
-        skill::internal::ElementAccess::makeDefault(*node->skillElement_);
+        callSkill(
+            CurrentOperation::Kind::MakeDefault,
+            [&] { skill::internal::ElementAccess::makeDefault(*node->skillElement_); }, *node);
         linkProperties(*node, [](ElementNode&) { throw; }, [] {});
     } catch (...) {
         releaseUuids(*node);
@@ -150,7 +153,12 @@ void ElementTree::linkProperties(ElementNode& top, const std::function<void(Elem
     }
     if (top.skillElement_ != nullptr) {
         try {
-            top.skillElement_->setEnclosingPropertyContainer(top.properties_, kUncounted);
+            callSkill(
+                CurrentOperation::Kind::Configure,
+                [&] {
+                    top.skillElement_->setEnclosingPropertyContainer(top.properties_, kUncounted);
+                },
+                top);
         } catch (...) {
             failed(top);
             // It counts as configured now, so that it can be linked.

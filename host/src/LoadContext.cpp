@@ -6,9 +6,10 @@
 #include "findCircles.hpp"
 #include "referenceData.hpp"
 #include "resolutionMessage.hpp"
-#include "text.hpp"
 #include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
+#include <corvane/workbench/host/text.hpp>
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 
@@ -103,7 +104,8 @@ bool LoadContext::resolveAll(const ElementTree& tree, const std::filesystem::pat
         *request.reference = request.isMember ? memberReferenceData(tree, request.key, importKeys)
                                               : elementReferenceData(tree, request.key, importKeys);
         if (request.completion) {
-            request.completion();
+            callSkill(CurrentOperation::Kind::ResolveReferences, request.completion,
+                      *request.owner);
         }
         if (auto text = problemText(*request.reference, importKeys)) {
             problems.push_back({file, request.location.line(), request.location.column(),

@@ -123,9 +123,10 @@ PropertyController::Subscription Notifications::subscribe(const ElementNode& ele
     // The description is copied: it is as good as the element or the row, which outlives the call.
     const auto where = [&element, path = place.path] { return element.primaryKey() + "." + path; };
     PropertyController::SubscriptionCallbacks callbacks;
-    callbacks.value = [this, where, property = place.property](bindings::Action action,
-                                                               std::size_t index) {
-        line("value", where()) << ": " << valueText(property) << actionText(action, index) << '\n';
+    callbacks.value = [this, where, &element, path = place.path, property = place.property,
+                       row = place.row](bindings::Action action, std::size_t index) {
+        const std::string value = valueText({element, property, path, row});
+        line("value", where()) << ": " << value << actionText(action, index) << '\n';
     };
     callbacks.state = [this, where, handle = place.property.property] {
         const auto& state = handle.state();

@@ -1,6 +1,6 @@
 #include <corvane/workbench/host/Problem.hpp>
 
-#include "text.hpp"
+#include <corvane/workbench/host/text.hpp>
 
 namespace corvane::workbench::host {
 

@@ -1,6 +1,7 @@
 #include "ReferenceUpdates.hpp"
 
 #include "resolutionMessage.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/Observer.hpp>
 #include <corvane/workbench/model/Element.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
@@ -69,7 +70,9 @@ void ReferenceUpdates::announce(std::span<Observer* const> observers,
             }
             guarded(firstFailure, [&] {
                 if (const auto* changed = reference(index)) {
-                    changed->updatePrimaryKey();
+                    callSkill(
+                        CurrentOperation::Kind::FollowReference,
+                        [&] { changed->updatePrimaryKey(); }, *changed);
                 }
             });
         }
@@ -86,7 +89,9 @@ void ReferenceUpdates::announce(std::span<Observer* const> observers,
         }
         guarded(firstFailure, [&] {
             if (const auto* changed = reference(index)) {
-                changed->updateState();
+                callSkill(
+                    CurrentOperation::Kind::FollowReference, [&] { changed->updateState(); },
+                    *changed);
             }
         });
     }

@@ -1,6 +1,6 @@
 #include "SharedLibrary.hpp"
 
-#include "text.hpp"
+#include <corvane/workbench/host/text.hpp>
 
 #include <string_view>
 #include <utility>

@@ -1,7 +1,8 @@
 #include <corvane/workbench/host/SkillLibrary.hpp>
 
 #include "SharedLibrary.hpp"
-#include "text.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
+#include <corvane/workbench/host/text.hpp>
 
 #include <algorithm>
 #include <fstream>
@@ -71,7 +72,9 @@ Result<SkillLibrary> SkillLibrary::open(const std::filesystem::path& path) {
 
     const auto& all = skill::Skill::Class::allSkills();
     const auto countBefore = std::distance(all.begin(), all.end());
-    auto library = SharedLibrary::open(absolute);
+    const std::string text = pathText(path);
+    auto library = callSkill(
+        CurrentOperation::Kind::OpenLibrary, [&] { return SharedLibrary::open(absolute); }, text);
     if (!library) {
         return tl::unexpected(
             problem(path, "is no library that can be loaded: " + library.error()));

@@ -1,5 +1,6 @@
 #include <corvane/workbench/host/TreePrinter.hpp>
 
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/host/displayText.hpp>
 #include <corvane/workbench/host/editableProperties.hpp>
@@ -7,7 +8,6 @@
 #include <corvane/workbench/skill/SubElement.hpp>
 
 #include <ostream>
-#include <string>
 
 namespace corvane::workbench::host {
 
@@ -39,50 +39,56 @@ void TreePrinter::printChildren(const ElementNode& element) {
 }
 
 void TreePrinter::printProperties(const ElementNode& element) {
-    beginLine() << onOneLine(element.name()) << "  (" << onOneLine(element.type()) << ", "
-                << countText(element.properties().propertyErrorCount(), "error") << ")\n";
+    print(onOneLine(element.name()) + "  (" + onOneLine(element.type()) + ", " +
+          countText(element.properties().propertyErrorCount(), "error") + ")");
     ++level_;
-    const auto print = [&](const skill::EditableProperty& property) { printProperty(property); };
-    element.skillElement()->forEachEditableProperty(print);
+    const auto printOwn = [&](const skill::EditableProperty& property) {
+        printProperty(element, property, {});
+    };
+    callSkill(
+        CurrentOperation::Kind::ListProperties,
+        [&] { element.skillElement()->forEachEditableProperty(printOwn); }, element);
     --level_;
 }
 
-std::ostream& TreePrinter::beginLine(bool pointedAt) {
-    if (pointedAt_) {
-        out_ << (pointedAt ? "> " : "  ");
-    }
-    return out_ << std::string(2 * level_, ' ');
+void TreePrinter::print(const std::string& line, bool pointedAt) {
+    const std::string margin = !pointedAt_ ? "" : pointedAt ? "> " : "  ";
+    out_ << margin + std::string(2 * level_, ' ') + line + '\n';
 }
 
-void TreePrinter::printProperty(const skill::EditableProperty& property) {
-    const auto& state = property.property.state();
-    const bool visible = property.property.visible();
-    beginLine(isSame(property.property, pointedAt_)) << (!visible ? "hidden "
-                                                         : state  ? "ok     "
-                                                                  : "error  ")
-                                                     << onOneLine(property.displayName) << ':';
-    if (const std::string value = valueText(property); !value.empty()) {
-        out_ << ' ' << value;
-    }
-    if (!state) {
-        out_ << "  <- " << onOneLine(state.error());
-    }
-    out_ << '\n';
+void TreePrinter::printProperty(const ElementNode& element, const skill::EditableProperty& property,
+                                const std::string& prefix) {
+    const std::string path = prefix + property.name;
+    const PropertyPlace place{element, property, path, nullptr};
+    const std::string value = valueText(place);
+    const auto& state = stateOf(place);
+    print(std::string(!isVisible(place) ? "hidden "
+                      : state           ? "ok     "
+                                        : "error  ") +
+              onOneLine(property.displayName) + ':' + (value.empty() ? "" : " ") + value +
+              (state ? std::string() : "  <- " + onOneLine(state.error())),
+          isSame(property.property, pointedAt_));
     if (property.forEachSubElement) {
         std::size_t index = 0;
-        const auto print = [&](skill::SubElement& row) { printRow(row, index++); };
+        const auto printEach = [&](skill::SubElement& row) {
+            printRow(element, row, path, index++);
+        };
         level_ += 4;
-        property.forEachSubElement(print);
+        property.forEachSubElement(printEach);
         level_ -= 4;
     }
 }
 
-void TreePrinter::printRow(skill::SubElement& row, std::size_t index) {
-    beginLine() << index << ": " << onOneLine(row.displayName()) << "  ("
-                << countText(row.propertyErrorCount(), "error") << ")\n";
+void TreePrinter::printRow(const ElementNode& element, skill::SubElement& row,
+                           const std::string& listPath, std::size_t index) {
+    print(std::to_string(index) + ": " + onOneLine(row.displayName()) + "  (" +
+          countText(row.propertyErrorCount(), "error") + ")");
     ++level_;
-    const auto print = [&](const skill::EditableProperty& property) { printProperty(property); };
-    row.forEachEditableProperty(print);
+    const std::string prefix = listPath + "." + std::to_string(index) + ".";
+    const auto printOwn = [&](const skill::EditableProperty& property) {
+        printProperty(element, property, prefix);
+    };
+    row.forEachEditableProperty(printOwn);
     --level_;
 }
 

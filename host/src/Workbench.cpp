@@ -1,16 +1,18 @@
 #include <corvane/workbench/host/Workbench.hpp>
 
+#include "ConfigurationReader.hpp"
 #include "ProgressInputStream.hpp"
 #include "WorkbenchState.hpp"
 #include "forEachPropertyProblem.hpp"
+#include "ownerOf.hpp"
 #include "referenceData.hpp"
-#include "text.hpp"
 #include "treeRules.hpp"
 #include "writeConfiguration.hpp"
 #include <corvane/utils/io/FileInputStream.hpp>
 #include <corvane/utils/io/FileOutputStream.hpp>
 #include <corvane/workbench/host/SkillLibrary.hpp>
 #include <corvane/workbench/host/elementName.hpp>
+#include <corvane/workbench/host/text.hpp>
 #include <corvane/workbench/model/ElementReference.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
@@ -128,23 +130,28 @@ LoadResult Workbench::loadConfiguration(utils::io::InputStream<char>& stream,
     return state_->load(stream, file, options);
 }
 
-Result<void> Workbench::saveConfiguration(const std::filesystem::path& file) const {
+Result<void> Workbench::saveConfiguration(const std::filesystem::path& file,
+                                          const SaveOptions& options) const {
     try {
         utils::io::FileOutputStream stream(file);
-        writeConfiguration(state_->tree.root(), stream);
-        stream.close();
-        return {};
+        auto saved = saveConfiguration(stream, options);
+        if (saved) {
+            stream.close();
+        }
+        return saved;
     } catch (const std::exception& exception) {
         return refuse(exception.what());
     }
 }
 
-Result<void> Workbench::saveConfiguration(utils::io::OutputStream<char>& stream) const {
+Result<void> Workbench::saveConfiguration(utils::io::OutputStream<char>& stream,
+                                          const SaveOptions& options) const {
     try {
-        writeConfiguration(state_->tree.root(), stream);
+        writeConfiguration(state_->tree.root(), options.loadAgain ? &state_->classes : nullptr,
+                           stream);
         return {};
     } catch (const std::exception& exception) {
-        return refuse(exception.what());
+        return tl::unexpected(problemOf(exception, {}));
     }
 }
 
@@ -381,14 +388,7 @@ std::vector<ReferenceUse> Workbench::referencesTo(const ElementNode& element) co
 }
 
 const ElementNode* Workbench::ownerOf(const BasicElementReference& reference) const {
-    const bindings::PropertyContainer* container = reference.referringController();
-    while (container != nullptr) {
-        if (const auto* properties = dynamic_cast<const ElementProperties*>(container)) {
-            return &properties->element();
-        }
-        container = container->enclosingPropertyContainer();
-    }
-    return nullptr;
+    return host::ownerOf(reference);
 }
 
 void Workbench::addObserver(Observer& observer) {

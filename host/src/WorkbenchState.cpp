@@ -3,10 +3,11 @@
 #include "ConfigurationReader.hpp"
 #include "LoadContext.hpp"
 #include "ProgressReport.hpp"
-#include "text.hpp"
 #include "treeRules.hpp"
 #include <corvane/utils/json/decoder/Document.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/Observer.hpp>
+#include <corvane/workbench/host/text.hpp>
 #include <corvane/workbench/model/internal/BasicElementReference.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>
 
@@ -54,13 +55,21 @@ Result<void> Workbench::State::addSkills(
             if (known) {
                 continue;
             }
-            skillId = skillClass.id();
-            auto instance = skillClass.createSkill();
-            if (!instance) {
-                throw std::runtime_error("it makes no instance of itself");
-            }
+            skillId = callSkill(
+                CurrentOperation::Kind::OpenLibrary, [&] { return std::string(skillClass.id()); },
+                pathText(library));
             const auto first = static_cast<std::ptrdiff_t>(classes.all().size());
-            skillClass.registerElementClasses(classes);
+            auto instance = callSkill(
+                CurrentOperation::Kind::RegisterClasses,
+                [&] {
+                    auto created = skillClass.createSkill();
+                    if (!created) {
+                        throw std::runtime_error("it makes no instance of itself");
+                    }
+                    skillClass.registerElementClasses(classes);
+                    return created;
+                },
+                skillId);
             skills.push_back(std::make_unique<LoadedSkill>(
                 skillClass, std::move(instance),
                 std::vector(classes.all().begin() + first, classes.all().end()), library));
@@ -272,7 +281,9 @@ void Workbench::State::membersChanged(const std::shared_ptr<ReferenceProxy>& pro
     for (std::size_t index = 0; index < updates.size(); ++index) {
         try {
             if (const BasicElementReference* reference = updates.reference(index)) {
-                reference->updateState();
+                callSkill(
+                    CurrentOperation::Kind::FollowReference, [&] { reference->updateState(); },
+                    *reference);
             }
         } catch (...) {
             firstFailure = firstFailure ? firstFailure : std::current_exception();

@@ -1,18 +1,23 @@
 #include "checkSaved.hpp"
 
+#include "ConfigurationReader.hpp"
+#include "ElementTree.hpp"
+#include "LoadContext.hpp"
 #include "reservedMembers.hpp"
-#include "text.hpp"
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/utils/json/decoder/Array.hpp>
 #include <corvane/utils/json/decoder/Document.hpp>
 #include <corvane/utils/json/decoder/Exception.hpp>
 #include <corvane/utils/json/decoder/Object.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
+#include <corvane/workbench/host/text.hpp>
 
 #include <cstddef>
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <unordered_set>
+#include <vector>
 
 namespace corvane::workbench::host {
 
@@ -67,14 +72,32 @@ void checkChildren(const ElementNode& parent, const decoder::Value& children) {
     }
 }
 
+/// Loads all elements one after the other and keeps none.
+void loadAgain(const ElementClassRegistry& classes, const decoder::Value& configuration) {
+    const LoadOptions options;
+    const std::filesystem::path noFile;
+    LoadContext context(options);
+    ElementTree tree;
+    std::vector<Problem> problems;
+    ConfigurationReader reader(classes, options, noFile, tree, context, problems,
+                               ConfigurationReader::Elements::Discard);
+    if (!reader.read(configuration)) {
+        throw std::runtime_error(problems.front().text);
+    }
+}
+
 } // namespace
 
-void checkSaved(const ElementNode& root, std::string_view text) {
+void checkSaved(const ElementNode& root, std::string_view text,
+                const ElementClassRegistry* classes) {
     utils::io::MemoryInputStream<char> stream(text);
     try {
         decoder::Document document(stream);
         auto object = document.root().asObject();
         checkChildren(root, (*object.begin()).value);
+        if (classes != nullptr) {
+            loadAgain(*classes, document.root());
+        }
     } catch (const decoder::Exception& exception) {
         throw std::runtime_error(std::string("the configuration could not be loaded again: ") +
                                  exception.message());

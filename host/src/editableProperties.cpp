@@ -1,9 +1,10 @@
 #include <corvane/workbench/host/editableProperties.hpp>
 
-#include "text.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 #include <corvane/workbench/host/displayText.hpp>
+#include <corvane/workbench/host/text.hpp>
 #include <corvane/workbench/model/internal/keys.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/Element.hpp>
@@ -15,12 +16,13 @@ namespace corvane::workbench::host {
 
 namespace {
 
+using Operation = CurrentOperation::Kind;
 using Callback = utils::core::function_ref<void(const PropertyPlace&)>;
 
-void visit(const skill::EditableProperty& property, const std::string& prefix,
-           skill::SubElement* row, Callback callback) {
+void visit(const ElementNode& element, const skill::EditableProperty& property,
+           const std::string& prefix, skill::SubElement* row, Callback callback) {
     const std::string path = prefix + property.name;
-    callback({property, path, row});
+    callback({element, property, path, row});
     if (!property.forEachSubElement) {
         return;
     }
@@ -28,7 +30,7 @@ void visit(const skill::EditableProperty& property, const std::string& prefix,
     const auto visitRow = [&](skill::SubElement& subElement) {
         const std::string rowPrefix = path + "." + std::to_string(index++) + ".";
         const auto visitProperty = [&](const skill::EditableProperty& rowProperty) {
-            visit(rowProperty, rowPrefix, &subElement, callback);
+            visit(element, rowProperty, rowPrefix, &subElement, callback);
         };
         subElement.forEachEditableProperty(visitProperty);
     };
@@ -74,9 +76,11 @@ void forEachElementOf(const Workbench& workbench, std::string_view address, Visi
 void forEachProperty(const ElementNode& element, Callback callback) {
     if (skill::Element* skillElement = element.skillElement()) {
         const auto visitProperty = [&](const skill::EditableProperty& property) {
-            visit(property, {}, nullptr, callback);
+            visit(element, property, {}, nullptr, callback);
         };
-        skillElement->forEachEditableProperty(visitProperty);
+        callSkill(
+            Operation::ListProperties,
+            [&] { skillElement->forEachEditableProperty(visitProperty); }, element);
     }
 }
 
@@ -129,8 +133,27 @@ void withProperty(const PropertyAddress& address, Callback callback) {
     forEachProperty(*address.element, look);
 }
 
-std::string valueText(const skill::EditableProperty& property) {
-    return property.text ? onOneLine(property.text()) : std::string();
+bool isVisible(const PropertyPlace& place) {
+    return callSkill(
+        Operation::GiveState, [&] { return place.property.property.visible(); }, place.element,
+        place.path);
+}
+
+const workbench::bindings::PropertyController::PropertyState& stateOf(const PropertyPlace& place) {
+    return callSkill(
+        Operation::GiveState, [&]() -> auto& { return place.property.property.state(); },
+        place.element, place.path);
+}
+
+std::wstring valueOf(const PropertyPlace& place) {
+    return callSkill(
+        Operation::GiveValue,
+        [&] { return place.property.text ? place.property.text() : std::wstring(); }, place.element,
+        place.path);
+}
+
+std::string valueText(const PropertyPlace& place) {
+    return onOneLine(valueOf(place));
 }
 
 } // namespace corvane::workbench::host

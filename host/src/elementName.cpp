@@ -1,7 +1,7 @@
 #include <corvane/workbench/host/elementName.hpp>
 
-#include "text.hpp"
 #include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/host/text.hpp>
 
 namespace corvane::workbench::host {
 

@@ -1,5 +1,6 @@
 #include "forEachPropertyProblem.hpp"
 
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
@@ -20,12 +21,16 @@ public:
 
     void visit(const skill::EditableProperty& property, const std::string& path,
                const std::wstring& displayPath) {
-        if (!property.property.visible()) {
+        const std::string ownPath = path + property.name;
+        const auto asked = [&](auto&& ask) -> decltype(auto) {
+            return callSkill(CurrentOperation::Kind::GiveState, ask, element_, ownPath);
+        };
+        if (!asked([&] { return property.property.visible(); })) {
             return;
         }
-        const std::string ownPath = path + property.name;
         const std::wstring ownDisplayPath = displayPath + property.displayName;
-        if (const auto& state = property.property.state(); !state) {
+        const auto& state = asked([&]() -> decltype(auto) { return property.property.state(); });
+        if (!state) {
             callback_({&element_, property.property, ownPath, ownDisplayPath, state.error()});
         }
         if (!property.forEachSubElement) {
@@ -64,7 +69,9 @@ void forEachPropertyProblem(const ElementNode& top,
         const auto visit = [&](const skill::EditableProperty& property) {
             walk.visit(property, {}, {});
         };
-        skillElement->forEachEditableProperty(visit);
+        callSkill(
+            CurrentOperation::Kind::ListProperties,
+            [&] { skillElement->forEachEditableProperty(visit); }, top);
     }
     for (std::size_t index = 0; index < top.childCount(); ++index) {
         forEachPropertyProblem(top.child(index), callback);

@@ -1,11 +1,6 @@
-#include "text.hpp"
+#include <corvane/workbench/host/text.hpp>
 
 namespace corvane::workbench::host {
-
-std::string pathText(const std::filesystem::path& path) {
-    const auto text = path.u8string();
-    return std::string(text.begin(), text.end());
-}
 
 std::string inQuotes(std::string_view text) {
     constexpr std::size_t kLongest = 200;

@@ -1,7 +1,9 @@
 #include "treeRules.hpp"
 
-#include "text.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
+#include <corvane/workbench/host/LoadedSkill.hpp>
+#include <corvane/workbench/host/text.hpp>
 
 #include <utility>
 
@@ -14,7 +16,11 @@ tl::unexpected<Problem> refuse(std::string text) {
 }
 
 bool allowsChild(const ElementNode& parent, const skill::Element::Class& childClass) {
-    return parent.isInvisibleRoot() || parent.elementClass().allowChildElement(childClass);
+    return parent.isInvisibleRoot() ||
+           callSkill(
+               CurrentOperation::Kind::Describe,
+               [&] { return parent.elementClass().allowChildElement(childClass); },
+               LoadedSkill::idOfSkillWith(parent.elementClass()));
 }
 
 std::string childRefused(const ElementNode& parent, const skill::Element::Class& childClass) {

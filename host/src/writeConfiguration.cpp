@@ -6,6 +6,7 @@
 #include <corvane/utils/json/encoder/Document.hpp>
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/json/encoder/Value.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/ElementNode.hpp>
 #include <corvane/workbench/json/internal/StringOutputStream.hpp>
 #include <corvane/workbench/skill/internal/ElementAccess.hpp>
@@ -29,7 +30,9 @@ void writeElement(const ElementNode& node, encoder::Value value) {
         encoder::Value accessControl = object.addMember(kAccessControlMember);
         node.accessControl()->encode(accessControl);
     }
-    skill::internal::ElementAccess::save(*node.skillElement(), object);
+    callSkill(
+        CurrentOperation::Kind::Save,
+        [&] { skill::internal::ElementAccess::save(*node.skillElement(), object); }, node);
     if (node.childCount() != 0) {
         writeChildren(node, object);
     }
@@ -44,14 +47,15 @@ void writeChildren(const ElementNode& parent, encoder::Object& object) {
 
 } // namespace
 
-void writeConfiguration(const ElementNode& root, utils::io::OutputStream<char>& stream) {
+void writeConfiguration(const ElementNode& root, const ElementClassRegistry* classes,
+                        utils::io::OutputStream<char>& stream) {
     json::internal::StringOutputStream collected;
     encoder::Document document(collected, encoder::Document::Format::Indented);
     encoder::Object object = document.root().writeObject();
     writeChildren(root, object);
     document.close();
     const std::string text = collected.take();
-    checkSaved(root, text);
+    checkSaved(root, text, classes);
     stream.write(text);
     stream.flush();
 }

@@ -37,10 +37,10 @@ TEST(ProgressBar, StaysOnOneLineAndTakesItAwayAtTheEnd) {
         bar.show({Stage::Reading, 1, 1});
         bar.show({Stage::Elements, 7, 0});
     }
-    const std::string blanks(49, ' ');
+    const std::string spaces(49, ' ');
     EXPECT_EQ(terminal.str(), "\rreading    [##############################] 100 %"
                               "\relements   7" +
-                                  std::string(37, ' ') + "\r" + blanks + "\r");
+                                  std::string(37, ' ') + "\r" + spaces + "\r");
 }
 
 TEST(ProgressBar, ShowsNothingOfAShortLoad) {

@@ -4,6 +4,7 @@
 
 #include "run.hpp"
 #include "text.hpp"
+#include "utils/io/TemporaryFolder.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -34,10 +35,12 @@ struct Outcome {
     }
 };
 
-[[nodiscard]] inline Outcome runWith(const std::vector<std::string>& arguments) {
+[[nodiscard]] inline Outcome runWith(const std::vector<std::string>& arguments,
+                                     const std::string& input = {}) {
+    std::istringstream in(input);
     std::ostringstream out;
     std::ostringstream err;
-    const int exitCode = run(arguments, {out, err});
+    const int exitCode = run(arguments, {in, out, err});
     return {exitCode, out.str(), err.str()};
 }
 
@@ -46,18 +49,12 @@ struct Outcome {
 class SkillbenchTest : public testing::Test {
 protected:
     SkillbenchTest() : before_(std::filesystem::current_path()) {
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        folder_ =
-            std::filesystem::temp_directory_path() /
-            (std::string("corvane-skillbench-") + test->test_suite_name() + "-" + test->name());
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_);
-        std::filesystem::current_path(folder_);
+        std::filesystem::current_path(folder_.path());
     }
     ~SkillbenchTest() override {
+        // Before the folder goes.
         std::error_code ignored;
         std::filesystem::current_path(before_, ignored);
-        std::filesystem::remove_all(folder_, ignored);
     }
 
     static void write(std::string_view name, std::string_view text) {
@@ -94,8 +91,8 @@ protected:
     }
 
 private:
+    tests::TemporaryFolder folder_;
     std::filesystem::path before_;
-    std::filesystem::path folder_;
 };
 
 } // namespace corvane::skillbench::test

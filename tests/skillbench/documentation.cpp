@@ -61,7 +61,7 @@ private:
     std::string lastName_;
 };
 
-/// Splits at blanks outside single quotes.
+/// Splits at spaces outside single quotes.
 std::vector<std::string> words(std::string_view line) {
     std::vector<std::string> result;
     std::string word;
@@ -90,8 +90,11 @@ protected:
         arguments.erase(arguments.begin());
         std::replace(arguments.begin(), arguments.end(), std::string("pump-station.so"),
                      std::string(CORVANE_PUMP_STATION));
+        std::replace(arguments.begin(), arguments.end(), std::string("troubles.so"),
+                     std::string(CORVANE_TEST_TROUBLE_SKILL));
+        std::istringstream nothing;
         std::ostringstream terminal;
-        lastExitCode_ = corvane::skillbench::run(arguments, {terminal, terminal});
+        lastExitCode_ = corvane::skillbench::run(arguments, {nothing, terminal, terminal});
         return {terminal.str(), lastExitCode_};
     }
 

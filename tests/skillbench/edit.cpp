@@ -3,6 +3,7 @@
 namespace {
 
 using corvane::skillbench::test::Outcome;
+using corvane::skillbench::test::runWith;
 using corvane::skillbench::test::SkillbenchTest;
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -171,6 +172,33 @@ TEST_F(SkillbenchEdit, SavesToTheConfigurationItselfWithoutAnotherFile) {
     EXPECT_THAT(runOn("edit", {"plant.json", "--rename", "Gauge=G"}).out,
                 EndsWith("saved 4 elements to plant.json\n"));
     EXPECT_THAT(read("plant.json"), HasSubstr("\"name\": \"G\""));
+}
+
+TEST_F(SkillbenchEdit, TellsTheUserElsewhereWhenTheStandardOutputTakesTheConfiguration) {
+    const Outcome outcome = runWith({"edit", "--skill", skillLibrary(), "-", "--rename", "Gauge=G"},
+                                    read("plant.json"));
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_THAT(outcome.out, StartsWith("{\n  \"children\": ["));
+    EXPECT_THAT(outcome.out, HasSubstr("\"name\": \"G\""));
+    EXPECT_EQ(outcome.err, "--rename Gauge=G\n"
+                           "  renamed     Gauge → G\n"
+                           "changed keys\n"
+                           "  Gauge → G\n"
+                           "saved 4 elements to the standard output\n");
+}
+
+TEST_F(SkillbenchEdit, RefusesToLoseAChangeMadeMeanwhile) {
+    write("plant.json", R"({"children": [{"trouble": {"name": "T", "where": "set",
+        "how": "change the file"}}]})");
+    const std::vector<std::string> command{"edit",       "--skill", CORVANE_TEST_TROUBLE_SKILL,
+                                           "plant.json", "--set",   "T.note=x"};
+    EXPECT_EQ(runWith(command).err,
+              "skillbench edit: “plant.json” has changed since it was read; nothing was saved "
+              "(--force overwrites it)\n");
+    std::vector<std::string> forced = command;
+    forced.emplace_back("--force");
+    EXPECT_EQ(runWith(forced).exitCode, 0);
+    EXPECT_THAT(read("plant.json"), HasSubstr("\"note\": \"x\""));
 }
 
 TEST_F(SkillbenchEdit, SavesNothingWhenAnEditFails) {

@@ -1,43 +1,30 @@
-// Runs the program itself, as a shell does.
-
-#include "SkillbenchFixture.hpp"
-#include <corvane/utils/string/transcode.hpp>
-
-#include <cstdlib>
+#include "ProgramFixture.hpp"
 
 namespace {
 
-using corvane::skillbench::test::SkillbenchTest;
-
-class SkillbenchProgram : public SkillbenchTest {
-protected:
-    /// Runs the program with the arguments as they stand in a shell's line and its output in a
-    /// file; returns whether it ended with the exit code 0.
-    static bool succeeds(const std::string& arguments) {
-        const std::string command =
-            "\"" CORVANE_SKILLBENCH "\" " + arguments + " >out.txt 2>err.txt";
-#ifdef _WIN32
-        // The shell takes the outer quotes away.
-        return _wsystem(corvane::utils::string::toWide("\"" + command + "\"").c_str()) == 0;
-#else
-        return std::system(command.c_str()) == 0;
-#endif
-    }
-};
+using corvane::skillbench::test::Outcome;
+using corvane::skillbench::test::SkillbenchProgram;
 
 TEST_F(SkillbenchProgram, TakesAndPrintsUtf8) {
     writePlant();
     std::filesystem::rename("plant.json", corvane::skillbench::pathOf("Öl Ω.json"));
-    EXPECT_TRUE(succeeds("check --skill \"" + skillLibrary() + "\" \"Öl Ω.json\""));
-    EXPECT_EQ(read("out.txt"), "Öl Ω.json: 4 elements, no problems\n");
-    EXPECT_EQ(read("err.txt"), "");
+    EXPECT_EQ(runProgram("check --skill " + inShell(skillLibrary()) + " \"Öl Ω.json\""),
+              (Outcome{0, "Öl Ω.json: 4 elements, no problems\n", ""}));
 }
 
 TEST_F(SkillbenchProgram, PrintsWhatIsWrongToTheErrorStream) {
-    EXPECT_FALSE(succeeds("tüpe uuid 1"));
-    EXPECT_EQ(read("out.txt"), "");
-    EXPECT_EQ(read("err.txt"),
-              "skillbench: there is no command “tüpe”; “skillbench --help” lists them\n");
+    EXPECT_EQ(
+        runProgram("tüpe uuid 1"),
+        (Outcome{2, "",
+                 "skillbench: there is no command “tüpe”; “skillbench --help” lists them\n"}));
+}
+
+TEST_F(SkillbenchProgram, ReadsAndWritesTheStandardStreams) {
+    writePlant();
+    const std::string skill = " --skill " + inShell(skillLibrary()) + " ";
+    ASSERT_EQ(runProgram("save" + skill + "plant.json -o saved.json").exitCode, 0);
+    const Outcome saved = runProgram("save" + skill + "- <plant.json");
+    EXPECT_EQ(saved, (Outcome{0, read("saved.json"), "saved 4 elements to the standard output\n"}));
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 #include "console.hpp"
 
 #ifdef _WIN32
+#include <windows.h>
 #include <fcntl.h>
 #include <io.h>
 #include <stdio.h>
-#include <windows.h>
 #endif
 
 namespace pump_station::demo {

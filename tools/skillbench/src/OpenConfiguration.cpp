@@ -3,11 +3,11 @@
 #include "CommandLine.hpp"
 #include "Failure.hpp"
 #include "ProgressBar.hpp"
+#include "abnormalEnd.hpp"
 #include "text.hpp"
+#include <corvane/utils/io/MemoryInputStream.hpp>
 
-#include <fstream>
 #include <ostream>
-#include <system_error>
 
 namespace corvane::skillbench {
 
@@ -15,22 +15,17 @@ namespace {
 
 namespace host = workbench::host;
 
-void requireReadable(const std::filesystem::path& file) {
-    std::error_code error;
-    const auto status = std::filesystem::status(file, error);
-    const std::string name = inQuotes(pathText(file));
-    if (status.type() == std::filesystem::file_type::not_found) {
-        throw Failure(kWrongUsage, name + " does not exist");
+std::unique_ptr<host::Workbench> openSkills(const std::vector<std::string>& libraries) {
+    if (libraries.empty()) {
+        throw UsageFailure("--skill LIBRARY is missing");
     }
-    if (error) {
-        throw Failure(kWrongUsage, name + " cannot be read: " + error.message());
+    auto workbench = std::make_unique<host::Workbench>();
+    for (const std::string& library : libraries) {
+        if (const auto opened = workbench->loadSkills(pathOf(library)); !opened) {
+            throw Failure(kWrongUsage, opened.error().text);
+        }
     }
-    if (std::filesystem::is_directory(status)) {
-        throw Failure(kWrongUsage, name + " is a directory, not a configuration");
-    }
-    if (!std::ifstream(file, std::ios::binary).good()) {
-        throw Failure(kWrongUsage, name + " cannot be read");
-    }
+    return workbench;
 }
 
 } // namespace
@@ -41,21 +36,14 @@ void ConfigurationArguments::addTo(CommandLine& commandLine) {
     commandLine.addFlag("keep-going", keepGoing, "leave out what cannot be loaded");
     commandLine.addFlag("resolve-imports", resolveImports,
                         "let import references point at elements of the configuration");
-    commandLine.addParameter("CONFIGURATION", configuration, "the configuration file");
+    commandLine.addParameter("CONFIGURATION", configuration,
+                             "the configuration file; “-” is the standard input");
 }
 
 OpenConfiguration::OpenConfiguration(const ConfigurationArguments& arguments,
                                      const Streams& streams)
-    : file_(pathOf(arguments.configuration)) {
-    if (arguments.skills.empty()) {
-        throw UsageFailure("--skill LIBRARY is missing");
-    }
-    for (const std::string& library : arguments.skills) {
-        if (const auto opened = workbench_.loadSkills(pathOf(library)); !opened) {
-            throw Failure(kWrongUsage, opened.error().text);
-        }
-    }
-    requireReadable(file_);
+    : workbench_(openSkills(arguments.skills)), source_(arguments.configuration, streams.in) {
+    setConfigurationName(pathText(source_.file()));
     host::LoadOptions options;
     options.resolveImportReferences = arguments.resolveImports;
     // The first load says whether the second one left something out.
@@ -65,21 +53,23 @@ OpenConfiguration::OpenConfiguration(const ConfigurationArguments& arguments,
         options.keepGoing = true;
         result_ = load(options, streams);
     }
+    source_.forgetText();
 }
 
 OpenConfiguration::~OpenConfiguration() = default;
 
 host::LoadResult OpenConfiguration::load(const host::LoadOptions& options, const Streams& streams) {
-    if (!streams.showsProgress) {
-        return workbench_.loadConfiguration(file_, options);
+    utils::io::MemoryInputStream<char> stream(source_.text());
+    if (!streams.progressAfter) {
+        return workbench_->loadConfiguration(stream, source_.file(), options);
     }
-    ProgressBar bar(streams.err);
+    ProgressBar bar(streams.err, *streams.progressAfter);
     host::LoadOptions watched = options;
     watched.progress = [&](const host::LoadProgress& progress) {
         bar.show(progress);
         return true;
     };
-    return workbench_.loadConfiguration(file_, watched);
+    return workbench_->loadConfiguration(stream, source_.file(), watched);
 }
 
 void OpenConfiguration::printLoadProblems(std::ostream& to) const {
@@ -88,16 +78,11 @@ void OpenConfiguration::printLoadProblems(std::ostream& to) const {
     }
 }
 
-void OpenConfiguration::requireWritable(const std::filesystem::path& target) const {
-    if (!result_.loaded) {
-        throw Failure(kProblems,
-                      inQuotes(pathText(file_)) + " cannot be loaded; no file was written");
+void OpenConfiguration::printProblem(host::Problem problem, std::ostream& to) const {
+    if (problem.line != 0) {
+        problem.file = source_.file();
     }
-    std::error_code ignored;
-    if (!complete_ && std::filesystem::equivalent(file_, target, ignored)) {
-        throw Failure(kProblems, "what was left out of " + inQuotes(pathText(file_)) +
-                                     " would be lost; write to another file with -o");
-    }
+    to << onOneLine(host::toString(problem)) << '\n';
 }
 
 } // namespace corvane::skillbench

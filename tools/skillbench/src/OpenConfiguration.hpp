@@ -1,10 +1,12 @@
 #pragma once
 
+#include "ConfigurationText.hpp"
 #include "Streams.hpp"
 #include <corvane/workbench/host/Workbench.hpp>
 
 #include <filesystem>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -33,11 +35,13 @@ public:
     OpenConfiguration& operator=(const OpenConfiguration&) = delete;
     ~OpenConfiguration();
 
-    [[nodiscard]] workbench::host::Workbench& workbench() noexcept { return workbench_; }
+    [[nodiscard]] workbench::host::Workbench& workbench() noexcept { return *workbench_; }
     [[nodiscard]] const workbench::host::Workbench& workbench() const noexcept {
-        return workbench_;
+        return *workbench_;
     }
-    [[nodiscard]] const std::filesystem::path& file() const noexcept { return file_; }
+    /// Its text has been forgotten.
+    [[nodiscard]] const ConfigurationText& source() const noexcept { return source_; }
+    [[nodiscard]] const std::filesystem::path& file() const noexcept { return source_.file(); }
     /// Whether the workbench has the configuration.
     [[nodiscard]] bool loaded() const noexcept { return result_.loaded; }
     /// Whether it has all of it; otherwise --keep-going left parts out.
@@ -46,16 +50,15 @@ public:
     [[nodiscard]] const workbench::host::LoadResult& result() const noexcept { return result_; }
     /// Prints the problems of the load, each on a line of its own.
     void printLoadProblems(std::ostream& to) const;
-    /// Throws a Failure when the configuration is not loaded, or when writing it to the target
-    /// would lose parts that --keep-going left out.
-    void requireWritable(const std::filesystem::path& target) const;
+    /// Prints a problem that came up later; a place is one in the configuration's file.
+    void printProblem(workbench::host::Problem problem, std::ostream& to) const;
 
 private:
     [[nodiscard]] workbench::host::LoadResult load(const workbench::host::LoadOptions& options,
                                                    const Streams& streams);
 
-    workbench::host::Workbench workbench_;
-    std::filesystem::path file_;
+    std::unique_ptr<workbench::host::Workbench> workbench_;
+    ConfigurationText source_;
     workbench::host::LoadResult result_;
     bool complete_ = false;
 };

@@ -15,7 +15,7 @@ public:
     static constexpr std::chrono::milliseconds kPatience{300};
 
     /// Shows nothing for as long as `patience`.
-    explicit ProgressBar(std::ostream& terminal, std::chrono::milliseconds patience = kPatience);
+    ProgressBar(std::ostream& terminal, std::chrono::milliseconds patience);
     ProgressBar(const ProgressBar&) = delete;
     ProgressBar& operator=(const ProgressBar&) = delete;
     /// Takes the line away.

@@ -1,12 +1,16 @@
 #include "console.hpp"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+
 #ifdef _WIN32
 #include <corvane/utils/string/transcode.hpp>
 
+#include <windows.h>
 #include <fcntl.h>
 #include <io.h>
 #include <stdio.h>
-#include <windows.h>
 // Needs what stands above.
 #include <shellapi.h>
 #else
@@ -15,11 +19,34 @@
 
 namespace corvane::skillbench {
 
+namespace {
+
+bool writeTo(int descriptor, std::string_view text) noexcept {
+    while (!text.empty()) {
+#ifdef _WIN32
+        constexpr std::size_t kMost = 1 << 20;
+        const auto written =
+            _write(descriptor, text.data(), static_cast<unsigned>(std::min(text.size(), kMost)));
+#else
+        const auto written = write(descriptor, text.data(), text.size());
+#endif
+        if (written >= 0) {
+            text.remove_prefix(static_cast<std::size_t>(written));
+        } else if (errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
 #ifdef _WIN32
 
 void prepareConsole() {
     SetConsoleOutputCP(CP_UTF8);
     // The same bytes as on other platforms, also in a file.
+    _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
 }
@@ -58,5 +85,13 @@ bool isErrorStreamATerminal() {
 }
 
 #endif
+
+bool writeToOutputStream(std::string_view text) noexcept {
+    return writeTo(1, text);
+}
+
+bool writeToErrorStream(std::string_view text) noexcept {
+    return writeTo(2, text);
+}
 
 } // namespace corvane::skillbench

@@ -1,17 +1,18 @@
 #include "CommandLine.hpp"
 #include "Failure.hpp"
 #include "OpenConfiguration.hpp"
+#include "SaveTarget.hpp"
 #include "assignment.hpp"
 #include "commands.hpp"
 #include "text.hpp"
 #include <corvane/utils/core/Uuid.hpp>
 #include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/Notifications.hpp>
 #include <corvane/workbench/host/editableProperties.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 
 #include <cstddef>
-#include <filesystem>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -102,20 +103,29 @@ private:
         std::optional<skill::EditableProperty> found;
         const auto take = [&](const host::PropertyPlace& place) { found = place.property; };
         withProperty(*property, take);
-        setValue(edit, *found, value);
+        const auto refusal = host::callSkill(
+            host::CurrentOperation::Kind::SetValue, [&] { return setValue(*found, value); },
+            *property->element, property->path);
+        if (!refusal.empty()) {
+            fail(edit, refusal);
+        }
     }
 
-    void setValue(const Edit& edit, const skill::EditableProperty& property,
-                  std::string_view value) const {
+    /// Returns why the property does not take the value; nothing when it does.
+    [[nodiscard]] std::string setValue(const skill::EditableProperty& property,
+                                       std::string_view value) const {
         if (property.editor == skill::EditableProperty::Editor::Reference) {
-            require(edit, workbench_.setReference(property, value));
-        } else if (property.editor == skill::EditableProperty::Editor::SubElementList) {
-            fail(edit, "a list is set row by row, as in LIST.0.PROPERTY=VALUE");
-        } else if (!property.setText) {
-            fail(edit, "the property is read only");
-        } else if (const auto set = property.setText(utils::string::toWide(value)); !set) {
-            fail(edit, onOneLine(set.error()));
+            const auto set = workbench_.setReference(property, value);
+            return set ? std::string() : set.error().text;
         }
+        if (property.editor == skill::EditableProperty::Editor::SubElementList) {
+            return "a list is set row by row, as in LIST.0.PROPERTY=VALUE";
+        }
+        if (!property.setText) {
+            return "the property is read only";
+        }
+        const auto set = property.setText(utils::string::toWide(value));
+        return set ? std::string() : onOneLine(set.error());
     }
 
     host::Workbench& workbench_;
@@ -147,7 +157,7 @@ void printChangedKeys(const host::Workbench& workbench, const Keys& before, std:
 
 int edit(Arguments arguments, const Streams& streams) {
     ConfigurationArguments configurationArguments;
-    std::optional<std::string> output;
+    SaveArguments saveArguments;
     std::vector<Edit> edits;
     const auto take = [&](std::string_view option) {
         return
@@ -165,9 +175,7 @@ int edit(Arguments arguments, const Streams& streams) {
                            "remove an element with everything below it");
     commandLine.addOrdered("set", "KEY.PROPERTY=VALUE", take("--set"),
                            "set a property, or one of a row: KEY.LIST.0.PROPERTY=VALUE");
-    commandLine.addValue("o,output", "FILE", output,
-                         "the file to write, CONFIGURATION itself "
-                         "without this option");
+    saveArguments.addTo(commandLine);
     configurationArguments.addTo(commandLine);
     if (!commandLine.parse(arguments, streams.out)) {
         return kDone;
@@ -178,26 +186,22 @@ int edit(Arguments arguments, const Streams& streams) {
 
     OpenConfiguration configuration(configurationArguments, streams);
     configuration.printLoadProblems(streams.err);
-    const std::filesystem::path target = output ? pathOf(*output) : configuration.file();
-    configuration.requireWritable(target);
+    const SaveTarget target(configuration, saveArguments, streams);
+    std::ostream& report = target.report();
     host::Workbench& workbench = configuration.workbench();
     Keys keys;
     collectKeys(workbench.root(), keys);
     {
-        host::Notifications notifications(workbench, streams.out);
+        host::Notifications notifications(workbench, report);
         const Editor editor(workbench);
         for (const Edit& edit : edits) {
-            streams.out << edit.option << ' ' << onOneLine(edit.argument) << '\n';
+            report << edit.option << ' ' << onOneLine(edit.argument) << '\n';
             editor.apply(edit);
             notifications.refresh();
         }
     }
-    printChangedKeys(workbench, keys, streams.out);
-    if (const auto saved = workbench.saveConfiguration(target); !saved) {
-        throw Failure(kProblems, saved.error().text);
-    }
-    streams.out << "saved " << countText(workbench.elementCount(), "element") << " to "
-                << pathText(target) << '\n';
+    printChangedKeys(workbench, keys, report);
+    target.save();
     return kDone;
 }
 

@@ -21,7 +21,7 @@ struct Keystroke {
 /// Throws a UsageFailure for an unknown name in angle brackets.
 [[nodiscard]] std::vector<Keystroke> parseKeystrokes(std::string_view text);
 
-/// The names, each with its brackets, separated by blanks.
+/// The names, each with its brackets, separated by spaces.
 [[nodiscard]] std::string keyNames();
 
 } // namespace corvane::skillbench

@@ -1,8 +1,11 @@
 #include "run.hpp"
 
 #include "Failure.hpp"
+#include "abnormalEnd.hpp"
 #include "commands.hpp"
 #include "text.hpp"
+#include <corvane/workbench/host/CurrentOperation.hpp>
+#include <corvane/workbench/host/Problem.hpp>
 
 #include <algorithm>
 #include <array>
@@ -71,8 +74,9 @@ int run(std::span<const std::string> arguments, const Streams& streams) {
         return kWrongUsage;
     }
     const auto complain = [&](std::string_view text) -> std::ostream& {
-        return streams.err << "skillbench " << name << ": " << text;
+        return streams.err << "skillbench " << name << ": " << onOneLine(text);
     };
+    setConfigurationName({});
     try {
         return command->run(arguments.subspan(1), streams);
     } catch (const UsageFailure& failure) {
@@ -83,6 +87,16 @@ int run(std::span<const std::string> arguments, const Streams& streams) {
         return failure.exitCode();
     } catch (const std::bad_alloc&) {
         throw;
+    } catch (const workbench::host::SkillFailure& failure) {
+        const workbench::host::Problem problem{
+            pathOf(configurationName()), failure.line(), failure.column(),
+            workbench::host::Problem::Severity::Error, failure.what()};
+        if (failure.line() != 0) {
+            streams.err << onOneLine(toString(problem)) << '\n';
+        } else {
+            complain(failure.what()) << '\n';
+        }
+        return kProblems;
     } catch (const std::exception& exception) {
         complain(exception.what()) << '\n';
         return kProblems;

@@ -1,24 +1,19 @@
 #include "CommandLine.hpp"
-#include "Failure.hpp"
+#include "ExitCode.hpp"
 #include "OpenConfiguration.hpp"
+#include "SaveTarget.hpp"
 #include "commands.hpp"
-#include "text.hpp"
-
-#include <filesystem>
-#include <optional>
-#include <ostream>
 
 namespace corvane::skillbench {
 
 int save(Arguments arguments, const Streams& streams) {
     ConfigurationArguments configurationArguments;
-    std::optional<std::string> output;
+    SaveArguments saveArguments;
     CommandLine commandLine("skillbench save",
                             "Loads a configuration and writes it again, in the order and form of "
-                            "the workbench. The file is replaced when all is written.");
-    commandLine.addValue("o,output", "FILE", output,
-                         "the file to write, CONFIGURATION itself "
-                         "without this option");
+                            "the workbench. The file is replaced when all is written and the "
+                            "skills could load it.");
+    saveArguments.addTo(commandLine);
     configurationArguments.addTo(commandLine);
     if (!commandLine.parse(arguments, streams.out)) {
         return kDone;
@@ -26,13 +21,7 @@ int save(Arguments arguments, const Streams& streams) {
 
     const OpenConfiguration configuration(configurationArguments, streams);
     configuration.printLoadProblems(streams.err);
-    const std::filesystem::path target = output ? pathOf(*output) : configuration.file();
-    configuration.requireWritable(target);
-    if (const auto saved = configuration.workbench().saveConfiguration(target); !saved) {
-        throw Failure(kProblems, saved.error().text);
-    }
-    streams.out << "saved " << countText(configuration.workbench().elementCount(), "element")
-                << " to " << pathText(target) << '\n';
+    SaveTarget(configuration, saveArguments, streams).save();
     return kDone;
 }
 

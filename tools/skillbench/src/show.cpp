@@ -7,6 +7,8 @@
 #include <corvane/workbench/host/TreePrinter.hpp>
 
 #include <ostream>
+#include <sstream>
+#include <string>
 
 namespace corvane::skillbench {
 
@@ -43,7 +45,10 @@ int show(Arguments arguments, const Streams& streams) {
 
     const OpenConfiguration configuration(configurationArguments, streams);
     if (json) {
-        showJson(configuration, streams.out);
+        // A program gets all or nothing.
+        std::ostringstream whole;
+        showJson(configuration, whole);
+        streams.out << whole.view();
     } else {
         printText(configuration, streams);
     }

@@ -9,11 +9,15 @@
 #include <corvane/utils/json/encoder/Object.hpp>
 #include <corvane/utils/numeric/format.hpp>
 #include <corvane/utils/string/transcode.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
+#include <corvane/workbench/host/editableProperties.hpp>
 #include <corvane/workbench/skill/EditableProperty.hpp>
 #include <corvane/workbench/skill/SubElement.hpp>
 
+#include <cstddef>
 #include <cstdint>
 #include <ostream>
+#include <string>
 #include <string_view>
 
 namespace corvane::skillbench {
@@ -54,13 +58,16 @@ void writeCount(encoder::Object& object, std::string_view name, std::uint64_t co
     object.addMember(name).writeNumber(utils::numeric::format(count));
 }
 
-void writeProperty(encoder::Object object, const skill::EditableProperty& property) {
+void writeProperty(encoder::Object object, const host::ElementNode& element,
+                   const skill::EditableProperty& property, const std::string& prefix) {
+    const std::string path = prefix + property.name;
+    const host::PropertyPlace place{element, property, path, nullptr};
     object.addMember("name").writeString(property.name);
     object.addMember("displayName").writeString(toUtf8(property.displayName));
     object.addMember("editor").writeString(editorText(property.editor));
-    object.addMember("value").writeString(property.text ? toUtf8(property.text()) : std::string());
-    object.addMember("visible").writeBool(property.property.visible());
-    if (const auto& state = property.property.state(); !state) {
+    object.addMember("value").writeString(toUtf8(valueOf(place)));
+    object.addMember("visible").writeBool(isVisible(place));
+    if (const auto& state = stateOf(place); !state) {
         object.addMember("error").writeString(toUtf8(state.error()));
     }
     if (!property.choices.empty()) {
@@ -71,13 +78,16 @@ void writeProperty(encoder::Object object, const skill::EditableProperty& proper
     }
     if (property.forEachSubElement) {
         encoder::Array rows = object.addMember("rows").writeArray();
+        std::size_t index = 0;
         const auto writeRow = [&](skill::SubElement& row) {
+            const std::string rowPrefix = path + "." + std::to_string(index++) + ".";
             encoder::Object rowObject = rows.addElement().writeObject();
             rowObject.addMember("displayName").writeString(toUtf8(row.displayName()));
             writeCount(rowObject, "errorCount", row.propertyErrorCount());
             encoder::Array properties = rowObject.addMember("properties").writeArray();
             const auto writeRowProperty = [&](const skill::EditableProperty& rowProperty) {
-                writeProperty(properties.addElement().writeObject(), rowProperty);
+                writeProperty(properties.addElement().writeObject(), element, rowProperty,
+                              rowPrefix);
             };
             row.forEachEditableProperty(writeRowProperty);
         };
@@ -96,9 +106,11 @@ void writeElement(encoder::Object object, const host::ElementNode& element) {
     writeCount(object, "errorCount", element.properties().propertyErrorCount());
     encoder::Array properties = object.addMember("properties").writeArray();
     const auto write = [&](const skill::EditableProperty& property) {
-        writeProperty(properties.addElement().writeObject(), property);
+        writeProperty(properties.addElement().writeObject(), element, property, {});
     };
-    element.skillElement()->forEachEditableProperty(write);
+    host::callSkill(
+        host::CurrentOperation::Kind::ListProperties,
+        [&] { element.skillElement()->forEachEditableProperty(write); }, element);
     writeChildren(object.addMember("children").writeArray(), element);
 }
 

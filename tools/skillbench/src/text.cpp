@@ -4,25 +4,12 @@
 
 namespace corvane::skillbench {
 
-std::string inQuotes(std::string_view text) {
-    return "“" + onOneLine(text) + "”";
-}
-
 std::string padded(std::string_view text, std::size_t width) {
     const auto characters =
         static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char character) {
             return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
         }));
     return std::string(text) + std::string(width - std::min(width, characters), ' ');
-}
-
-std::filesystem::path pathOf(std::string_view text) {
-    return std::u8string(text.begin(), text.end());
-}
-
-std::string pathText(const std::filesystem::path& path) {
-    const auto text = path.u8string();
-    return {text.begin(), text.end()};
 }
 
 } // namespace corvane::skillbench

@@ -1,6 +1,6 @@
 #include <corvane/utils/io/FileInputStream.hpp>
 
-#include "pathText.hpp"
+#include "pathError.hpp"
 #include "systemPath.hpp"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "OutputFile.hpp"
 #include "OutputTarget.hpp"
 #include "TemporaryFile.hpp"
-#include "pathText.hpp"
+#include "pathError.hpp"
 #include "systemPath.hpp"
 
 #include <optional>

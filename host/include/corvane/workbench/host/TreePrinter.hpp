@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <iosfwd>
+#include <string>
 
 namespace corvane::workbench::skill {
 struct EditableProperty;
@@ -32,9 +33,12 @@ public:
     void printProperties(const ElementNode& element);
 
 private:
-    std::ostream& beginLine(bool pointedAt = false);
-    void printProperty(const skill::EditableProperty& property);
-    void printRow(skill::SubElement& row, std::size_t index);
+    // Whole lines: a skill that fails while one is being made does not stop in the middle of it.
+    void print(const std::string& line, bool pointedAt = false);
+    void printProperty(const ElementNode& element, const skill::EditableProperty& property,
+                       const std::string& prefix);
+    void printRow(const ElementNode& element, skill::SubElement& row, const std::string& listPath,
+                  std::size_t index);
 
     std::ostream& out_;
     bindings::PropertyHandle pointedAt_;

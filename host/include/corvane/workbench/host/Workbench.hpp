@@ -11,6 +11,7 @@
 #include <corvane/workbench/host/Problem.hpp>
 #include <corvane/workbench/host/PropertyProblem.hpp>
 #include <corvane/workbench/host/ReferenceUse.hpp>
+#include <corvane/workbench/host/SaveOptions.hpp>
 #include <corvane/workbench/model/internal/ElementReferenceData.hpp>
 #include <corvane/workbench/skill/Skill.hpp>
 
@@ -81,9 +82,11 @@ public:
     /// Writes the configuration as indented JSON. The file is replaced when all is written, and
     /// unchanged when that fails, or when what the skills write could not be loaded again: a member
     /// that is reserved or comes twice, or settings that are nested too deeply.
-    Result<void> saveConfiguration(const std::filesystem::path& file) const;
+    Result<void> saveConfiguration(const std::filesystem::path& file,
+                                   const SaveOptions& options = {}) const;
     /// The same to a stream, which is flushed but not closed.
-    Result<void> saveConfiguration(utils::io::OutputStream<char>& stream) const;
+    Result<void> saveConfiguration(utils::io::OutputStream<char>& stream,
+                                   const SaveOptions& options = {}) const;
 
     /// @}
     /// @name The tree

@@ -6,6 +6,7 @@
 // ("alarmLimits[0].high").
 
 #include <corvane/utils/core/function_ref.hpp>
+#include <corvane/workbench/bindings/PropertyController.hpp>
 
 #include <optional>
 #include <string>
@@ -23,6 +24,8 @@ class Workbench;
 
 /// A property that a user may see, as its element describes it.
 struct PropertyPlace {
+    /// The element whose property it is.
+    const ElementNode& element;
     /// What the element says of the property.
     const skill::EditableProperty& property;
     /// The path of the property in its element.
@@ -65,7 +68,17 @@ struct PropertyAddress {
 void withProperty(const PropertyAddress& address,
                   utils::core::function_ref<void(const PropertyPlace&)> callback);
 
-/// The text of the value as the user sees it, on one line.
-[[nodiscard]] std::string valueText(const skill::EditableProperty& property);
+/// @name What a property is, asked so that a skill that fails is named
+/// @{
+
+[[nodiscard]] bool isVisible(const PropertyPlace& place);
+/// As good as that of the property's controller.
+[[nodiscard]] const bindings::PropertyController::PropertyState&
+stateOf(const PropertyPlace& place);
+/// The text of the value as the user sees it; may have several lines.
+[[nodiscard]] std::wstring valueOf(const PropertyPlace& place);
+/// The same on one line.
+[[nodiscard]] std::string valueText(const PropertyPlace& place);
+/// @}
 
 } // namespace corvane::workbench::host

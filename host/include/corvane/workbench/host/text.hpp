@@ -1,15 +1,15 @@
 #pragma once
 
-// Texts in problems.
+// Texts in problems, for those who add problems of their own.
 
-#include <filesystem>
+#include <corvane/utils/io/pathText.hpp>
+
 #include <string>
 #include <string_view>
 
 namespace corvane::workbench::host {
 
-/// The path in UTF-8, as the user would write it.
-[[nodiscard]] std::string pathText(const std::filesystem::path& path);
+using utils::io::pathText;
 
 /// The text between curly quotation marks. A very long one is cut in the middle of nowhere but at
 /// the boundary of a character, and ends in an ellipsis.

@@ -1,6 +1,8 @@
 #pragma once
 
-// Paths in error messages.
+// Failures that name a path.
+
+#include <corvane/utils/io/pathText.hpp>
 
 #include <cerrno>
 #include <filesystem>
@@ -8,12 +10,6 @@
 #include <system_error>
 
 namespace corvane::utils::io {
-
-/// The path as UTF-8, whatever the platform's narrow encoding is.
-[[nodiscard]] inline std::string pathText(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
 
 /// What the system said last; streams report failures only through errno.
 [[nodiscard]] inline std::error_code lastError() noexcept {
