@@ -3,6 +3,7 @@
 // there are as many workbenches as make 100,000 items in all, so that the memory, and with it how
 // well the caches serve, is the same.
 #include "host/TestSkill.hpp"
+#include "plant.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -19,28 +20,8 @@
 namespace {
 
 namespace host = corvane::workbench::host;
-
-/// A configuration of `elements` points below "plant", a hundred to a group, each with three
-/// references to points elsewhere in the plant.
-std::string plant(std::int64_t elements) {
-    std::string text = R"({"children": [{"group": {"name": "plant", "children": [)";
-    const auto key = [elements](std::int64_t number) {
-        number %= elements;
-        return "\"plant.g" + std::to_string(number / 100) + ".p" + std::to_string(number) + '"';
-    };
-    for (std::int64_t number = 0; number < elements; ++number) {
-        if (number % 100 == 0) {
-            text += number == 0 ? "" : "]}},";
-            text +=
-                R"({"group": {"name": "g)" + std::to_string(number / 100) + R"(", "children": [)";
-        } else {
-            text += ',';
-        }
-        text += R"({"point": {"name": "p)" + std::to_string(number) + R"(", "limit": 5, "rows": [)";
-        text += key(number + 1) + "," + key(number + 7) + "," + key(number + 100) + "]}}";
-    }
-    return text + "]}}]}}]}";
-}
+using corvane::bench::plant;
+using corvane::bench::plantKey;
 
 /// `references` rows outside the plant that refer to its points, a thousand to an element.
 std::string plantWithWatchers(std::int64_t elements, std::int64_t references) {
@@ -54,7 +35,7 @@ std::string plantWithWatchers(std::int64_t elements, std::int64_t references) {
             text += ',';
         }
         const std::int64_t target = number % elements;
-        text += "\"plant.g" + std::to_string(target / 100) + ".p" + std::to_string(target) + '"';
+        text += plantKey(target);
     }
     return text + "]}}]}";
 }

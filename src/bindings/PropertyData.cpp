@@ -52,21 +52,21 @@ void PropertyController::PropertyData::configure(PropertyConfiguration&& configu
                                                  const ClassifiedProperty& classified) {
     internal::PropertyFunction<bool> visibility(std::move(configuration.visibility));
     internal::PropertyFunction<PropertyState> state(std::move(configuration.state));
-    std::vector<PropertyId> raised(configuration.raisedProperties.begin(),
-                                   configuration.raisedProperties.end());
+    internal::SparseVector<PropertyId> raised(configuration.raisedProperties.begin(),
+                                              configuration.raisedProperties.end());
     // What is replaced is destroyed last, when this object is as it will stay.
     std::swap(visibilityFunction_, visibility);
     std::swap(stateFunction_, state);
-    raisedProperties_.swap(raised);
+    std::swap(raisedProperties_, raised);
     subPropertyContainer_ = classified.subPropertyContainer;
     crossReferenceController_ = classified.crossReferenceController;
 }
 
 void PropertyController::PropertyData::addDependentProperty(Dependency&& dependency) {
-    const auto existing =
-        std::ranges::find(dependentProperties_, dependency.property, &Dependency::property);
-    if (existing == dependentProperties_.end()) {
-        dependentProperties_.push_back(std::move(dependency));
+    const std::span<Dependency> dependents = dependentProperties_.items();
+    const auto existing = std::ranges::find(dependents, dependency.property, &Dependency::property);
+    if (existing == dependents.end()) {
+        dependentProperties_.append(std::move(dependency));
         return;
     }
     existing->updatesValue |= dependency.updatesValue;

@@ -1,3 +1,4 @@
+#include "PrivateMember.hpp"
 #include "TestContainer.hpp"
 #include "Trace.hpp"
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
@@ -9,9 +10,19 @@
 #include <utility>
 
 namespace corvane::workbench::bindings::test {
-namespace {
 
 using Handle = PropertyContainer::ErrorCountSubscription;
+
+struct HandleContainer {
+    friend constexpr auto reveal(HandleContainer);
+};
+struct HandleId {
+    friend constexpr auto reveal(HandleId);
+};
+template struct PrivateMember<HandleContainer, &Handle::container_>;
+template struct PrivateMember<HandleId, &Handle::id_>;
+
+namespace {
 
 static_assert(std::is_nothrow_move_constructible_v<Handle>);
 
@@ -60,6 +71,23 @@ TEST(ErrorCountSubscription, EndsWhenItIsReset) {
     EXPECT_FALSE(handle);
     container.setLocal(1);
     EXPECT_EQ(trace.take(), "");
+}
+
+TEST(ErrorCountSubscription, HasNoContainerAndNoIdAfterItWasResetOrMoved) {
+    TestContainer container;
+    const Handle other = container.subscribeToPropertyErrorCount([] {});
+    Handle reset = container.subscribeToPropertyErrorCount([] {});
+    EXPECT_NE(reset.*reveal(HandleId{}), 0U);
+    Handle constructedFrom = container.subscribeToPropertyErrorCount([] {});
+    Handle assignedFrom = container.subscribeToPropertyErrorCount([] {});
+    reset.reset();
+    Handle target(std::move(constructedFrom));
+    target = std::move(assignedFrom);
+    for (const Handle* const empty : {&reset, &constructedFrom, &assignedFrom}) {
+        EXPECT_EQ(empty->*reveal(HandleContainer{}), nullptr);
+        EXPECT_EQ(empty->*reveal(HandleId{}), 0U);
+    }
+    EXPECT_EQ(target.*reveal(HandleContainer{}), &container);
 }
 
 TEST(ErrorCountSubscription, ResettingAnEmptyOneDoesNothing) {

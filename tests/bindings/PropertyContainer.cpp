@@ -441,6 +441,82 @@ TEST(PropertyContainer, UnlinkingKeepsTheCountThatItIsToldToKeep) {
     EXPECT_EQ(part.localQueries, 0);
 }
 
+TEST(PropertyContainer, UnlinkingOneWhoseFirstCountThrowsTakesItsCountOutAllTheSame) {
+    TestContainer owner;
+    TestContainer part;
+    part.local = 3;
+    part.setEnclosingPropertyContainer(owner, {});
+    bool thrown = false;
+    part.onLocalQuery = [&] {
+        if (!std::exchange(thrown, true)) {
+            throw std::runtime_error("the first count");
+        }
+    };
+    EXPECT_THROW(part.resetEnclosingPropertyContainer({}), std::runtime_error);
+    EXPECT_EQ(part.enclosingPropertyContainer(), nullptr);
+    EXPECT_EQ(owner.propertyErrorCount(), 0U);
+}
+
+// Exceptions of those who hear of a count.
+
+struct FailingPair {
+    FailingPair() {
+        part.local = 2;
+        setCount(first, 1);
+        setCount(second, 4);
+    }
+    /// From now on whoever hears of a change of the container's count fails.
+    static void fail(TestContainer& container) {
+        container.onErrorCountChanged = [] { throw std::runtime_error("heard"); };
+    }
+
+    TestContainer part;
+    TestContainer first;
+    TestContainer second;
+};
+
+TEST(PropertyContainer, LinkingPassesOnTheExceptionOfEitherOwnersSubscriber) {
+    for (const bool formerFails : {false, true}) {
+        FailingPair pair;
+        pair.part.setEnclosingPropertyContainer(pair.first, {});
+        FailingPair::fail(formerFails ? pair.first : pair.second);
+        EXPECT_THROW(pair.part.setEnclosingPropertyContainer(pair.second, {}), std::runtime_error);
+        EXPECT_EQ(pair.part.enclosingPropertyContainer(), &pair.second);
+        EXPECT_EQ(subCount(pair.first), 1U);
+        EXPECT_EQ(subCount(pair.second), 6U);
+    }
+}
+
+TEST(PropertyContainer, UnlinkingPassesOnTheExceptionOfASubscriber) {
+    FailingPair pair;
+    pair.part.setEnclosingPropertyContainer(pair.first, {});
+    FailingPair::fail(pair.first);
+    EXPECT_THROW(pair.part.resetEnclosingPropertyContainer({}), std::runtime_error);
+    EXPECT_EQ(pair.part.enclosingPropertyContainer(), nullptr);
+    EXPECT_EQ(subCount(pair.first), 1U);
+}
+
+TEST(PropertyContainer, MovingAListPassesOnTheExceptionOfASubscriber) {
+    for (const bool sourceFails : {false, true}) {
+        FailingPair pair;
+        FailingPair::fail(sourceFails ? pair.second : pair.first);
+        EXPECT_THROW(pair.first.subPropertyContainerListMoved(pair.second, {}), std::runtime_error);
+        EXPECT_EQ(subCount(pair.first), 4U);
+        EXPECT_EQ(subCount(pair.second), 0U);
+    }
+}
+
+TEST(PropertyContainer, SwappingListsPassesOnTheExceptionOfASubscriber) {
+    for (const bool otherFails : {false, true}) {
+        FailingPair pair;
+        FailingPair::fail(otherFails ? pair.second : pair.first);
+        EXPECT_THROW(pair.first.subPropertyContainerListSwapped(pair.second, {}),
+                     std::runtime_error);
+        EXPECT_EQ(subCount(pair.first), 4U);
+        EXPECT_EQ(subCount(pair.second), 1U);
+    }
+}
+
 #if GTEST_HAS_DEATH_TEST && !defined(NDEBUG) && !defined(_WIN32)
 TEST(PropertyContainerDeathTest, LinkingAContainerBelowItselfIsAProgrammingError) {
     Chain chain;

@@ -686,6 +686,34 @@ TEST(PropertyController, StoresItsErrorCountWithoutReportingWhenOnlyUpdated) {
     EXPECT_EQ(controller.propertyErrorCount(), 1U);
 }
 
+TEST(PropertyController, HidingAPropertyDoesNotLinkItsSubContainerAgain) {
+    bool shown = true;
+    TestContainer part;
+    TestContainer elsewhere;
+    TestController controller([&](Context& context) {
+        context.configure(kA, {.visibility = [&] { return shown; }},
+                          {.subPropertyContainer = &part});
+    });
+    EXPECT_TRUE(controller.propertyVisible(kA));
+    part.setEnclosingPropertyContainer(elsewhere, {});
+    shown = false;
+    controller.publishVisibility(kA);
+    EXPECT_EQ(part.enclosingPropertyContainer(), &elsewhere);
+}
+
+TEST(PropertyController, DoesNotCountAnErrorOfAnEntryThatIsGone) {
+    TestController controller;
+    auto subscription = controller.subscribe(kA, {});
+    controller.onConfigure = [&](Context& context) {
+        context.configure(kA, {.state = [] { return failure(); }});
+        controller.publish(kA, Action::Update, 0);
+        context.configure(kA, {});
+        subscription.reset();
+    };
+    EXPECT_EQ(controller.propertyErrorCount(), 0U);
+    EXPECT_EQ(entries(controller), 0U);
+}
+
 TEST(PropertyController, RaisesNothingWithoutAnEnclosingContainer) {
     Trace trace;
     TestController controller(

@@ -409,5 +409,106 @@ TEST(Reentrancy, RelinkingWithBothKeepFlagsAndReportingBothListsKeepsCountsRight
     }
 }
 
+/// A part of an owner, which is a part of a root; all linked and without errors.
+struct Nested {
+    Nested() {
+        root.parts = {{&owner}};
+        owner.parts = {{&part}};
+        owner.setEnclosingPropertyContainer(root, {});
+        part.setEnclosingPropertyContainer(owner, {});
+    }
+    /// Has the action run once, when the container's count changes.
+    static void once(TestContainer& container, std::function<void()> action) {
+        container.onErrorCountChanged = [action = std::move(action), done = false]() mutable {
+            if (!std::exchange(done, true)) {
+                action();
+            }
+        };
+    }
+
+    Trace trace;
+    TestContainer root{"root", trace};
+    TestContainer owner{"owner", trace};
+    TestContainer part{"part", trace};
+};
+
+TEST(Reentrancy, AContainerThatIsUnlinkedDuringItsOwnAnnouncementCountsNowhere) {
+    Nested nested;
+    Nested::once(nested.part, [&] {
+        nested.owner.parts.clear();
+        nested.part.resetEnclosingPropertyContainer({});
+    });
+    nested.part.setLocal(2);
+    EXPECT_EQ(nested.part.propertyErrorCount(), 2U);
+    EXPECT_EQ(nested.owner.propertyErrorCount(), 0U);
+    EXPECT_EQ(nested.root.propertyErrorCount(), 0U);
+}
+
+TEST(Reentrancy, AContainerThatIsUnlinkedWhileItPassesACountOnTakesItAlong) {
+    Nested nested;
+    Nested::once(nested.owner, [&] {
+        nested.root.parts.clear();
+        nested.owner.resetEnclosingPropertyContainer({});
+    });
+    nested.part.setLocal(2);
+    EXPECT_EQ(nested.owner.propertyErrorCount(), 2U);
+    EXPECT_EQ(nested.root.propertyErrorCount(), 0U);
+    EXPECT_EQ(nested.trace.take(), "part.changed=2 owner.changed=2");
+}
+
+TEST(Reentrancy, AContainerThatIsLinkedElsewhereDuringItsOwnAnnouncementCountsThereOnly) {
+    for (const bool passesOn : {false, true}) {
+        Nested nested;
+        TestContainer next;
+        TestContainer& moved = passesOn ? nested.owner : nested.part;
+        TestContainer& former = passesOn ? nested.root : nested.owner;
+        Nested::once(moved, [&] {
+            next.parts = std::exchange(former.parts, {});
+            moved.setEnclosingPropertyContainer(next, {});
+        });
+        nested.part.setLocal(2);
+        EXPECT_EQ(moved.propertyErrorCount(), 2U);
+        EXPECT_EQ(former.propertyErrorCount(), 0U);
+        EXPECT_EQ(next.propertyErrorCount(), 2U);
+        EXPECT_EQ(nested.root.propertyErrorCount(), 0U);
+    }
+}
+
+TEST(Reentrancy, AContainerThatIsLinkedDuringItsOwnAnnouncementCountsOnce) {
+    TestContainer owner;
+    TestContainer part;
+    Nested::once(part, [&] {
+        owner.parts = {{&part}};
+        part.setEnclosingPropertyContainer(owner, {});
+    });
+    part.setLocal(2);
+    EXPECT_EQ(owner.propertyErrorCount(), 2U);
+}
+
+TEST(Reentrancy, ARecountThatItsWalkHasOutdatedIsRepeatedAndHeardOfOnce) {
+    Nested nested;
+    TestContainer second;
+    second.local = 3;
+    nested.owner.parts.push_back({&second});
+    // The first part has been counted when the second one changes it.
+    second.onLocalQuery = [&] {
+        if (nested.part.local == 0) {
+            nested.part.setLocal(5);
+        }
+    };
+    nested.owner.subPropertyContainerListChanged({});
+    EXPECT_EQ(nested.owner.propertyErrorCount(), 8U);
+    EXPECT_EQ(nested.root.propertyErrorCount(), 8U);
+    EXPECT_EQ(nested.trace.take(), "part.changed=5 owner.changed=8 root.changed=8");
+}
+
+TEST(Reentrancy, ARecountDuringAnAnnouncementCountsNothingTwice) {
+    Nested nested;
+    Nested::once(nested.owner, [&] { nested.root.subPropertyContainerListChanged({}); });
+    nested.part.setLocal(2);
+    EXPECT_EQ(nested.root.propertyErrorCount(), 2U);
+    EXPECT_EQ(nested.trace.take(), "part.changed=2 owner.changed=2 root.changed=2");
+}
+
 } // namespace
 } // namespace corvane::workbench::bindings::test

@@ -110,6 +110,27 @@ TEST(Subscription, CallsSubscribersInTheOrderOfSubscriptionUntilTheyAreReset) {
     EXPECT_EQ(trace.take(), "second");
 }
 
+TEST(Subscription, HasNoPropertyAndNoIdAfterItWasReset) {
+    TestController controller;
+    const auto other = controller.subscribe(kSpeed, {});
+    auto subscription = controller.subscribe(kSpeed, {});
+    subscription.reset();
+    EXPECT_EQ(subscription.*reveal(SubscriptionController{}), nullptr);
+    EXPECT_EQ(subscription.*reveal(SubscriptionProperty{}), PropertyId());
+    EXPECT_EQ(subscription.*reveal(SubscriptionId{}), 0U);
+}
+
+TEST(Subscription, HasNoPropertyAndNoIdAfterItWasAssignedAway) {
+    TestController controller;
+    Subscription target;
+    auto source = controller.subscribe(kSpeed, {});
+    target = std::move(source);
+    EXPECT_EQ(source.*reveal(SubscriptionController{}), nullptr);
+    EXPECT_EQ(source.*reveal(SubscriptionProperty{}), PropertyId());
+    EXPECT_EQ(source.*reveal(SubscriptionId{}), 0U);
+    EXPECT_EQ(target.*reveal(SubscriptionProperty{}), kSpeed.id());
+}
+
 TEST(Subscription, EndsWhenItIsDestroyed) {
     Trace trace;
     TestController controller;

@@ -3,13 +3,13 @@
 #include <corvane/workbench/bindings/PropertyController.hpp>
 #include <corvane/workbench/bindings/internal/ErrorCounter.hpp>
 #include <corvane/workbench/bindings/internal/PropertyFunction.hpp>
+#include <corvane/workbench/bindings/internal/SparseVector.hpp>
 #include <corvane/workbench/bindings/internal/SubscriptionList.hpp>
 #include <corvane/workbench/export.hpp>
 
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <vector>
 
 namespace corvane::workbench::bindings {
 
@@ -65,10 +65,10 @@ public:
     /// What was configured, for the controller to go on with.
     /// @{
     [[nodiscard]] std::span<const Dependency> dependentProperties() const noexcept {
-        return dependentProperties_;
+        return dependentProperties_.items();
     }
     [[nodiscard]] std::span<const PropertyId> raisedProperties() const noexcept {
-        return raisedProperties_;
+        return raisedProperties_.items();
     }
     [[nodiscard]] PropertyContainer* subPropertyContainer() const noexcept {
         return subPropertyContainer_;
@@ -103,8 +103,8 @@ private:
     std::uint32_t publishingFlags_ = 0;
     internal::PropertyFunction<PropertyState> stateFunction_;
     internal::PropertyFunction<bool> visibilityFunction_;
-    std::vector<Dependency> dependentProperties_;
-    std::vector<PropertyId> raisedProperties_;
+    internal::SparseVector<Dependency> dependentProperties_;
+    internal::SparseVector<PropertyId> raisedProperties_;
     PropertyContainer* subPropertyContainer_ = nullptr;
     CrossReferenceController* crossReferenceController_ = nullptr;
     internal::SubscriptionList<std::size_t, SubscriptionCallbacks> subscriptions_;

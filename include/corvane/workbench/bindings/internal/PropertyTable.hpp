@@ -116,6 +116,7 @@ public:
 
     /// Removes every entry.
     void clear() noexcept {
+        index_.reset(); // which spares closing a gap in it for each
         while (Pin pin = Pin(*this, firstKept(first_))) {
             remove(pin);
         }
@@ -204,13 +205,13 @@ private:
 
     /// For one entry more.
     void makeRoomInIndex() {
-        const std::size_t needed = 2 * (size_ + 1);
+        const std::size_t needed = std::size_t{2} * size_ + 2;
         if (size_ < kCompared || (index_ != nullptr && indexSize() >= needed)) {
             return;
         }
         const std::size_t places = std::bit_ceil(needed);
         index_ = std::make_unique<Entry*[]>(places);
-        indexBits_ = static_cast<unsigned>(std::countr_zero(places));
+        indexBits_ = static_cast<std::uint32_t>(std::countr_zero(places));
         for (Entry* entry = firstKept(first_); entry != nullptr; entry = firstKept(entry->next)) {
             enterIntoIndex(entry);
         }
@@ -218,10 +219,10 @@ private:
 
     Entry* first_ = nullptr;
     Entry* last_ = nullptr;
-    std::size_t size_ = 0;
     std::size_t errorCount_ = 0;
     std::unique_ptr<Entry*[]> index_; // null while there are few entries
-    unsigned indexBits_ = 0;
+    std::uint32_t indexBits_ = 0;
+    std::uint32_t size_ = 0;
 };
 
 } // namespace corvane::workbench::bindings::internal
