@@ -33,6 +33,28 @@ class Object;
 namespace corvane::workbench::kit {
 
 class Form;
+template <class T>
+class Setting;
+
+namespace internal {
+
+/// The type of a field, given by itself or by a handle.
+template <class T>
+struct FieldOf {
+    using Type = T;
+};
+template <class T>
+struct FieldOf<Setting<T>> {
+    using Type = T;
+};
+
+/// Whether a field is changed by others than its editor: references and lists of rows are.
+template <class Dependency>
+inline constexpr bool kChangesByItself =
+    std::is_base_of_v<bindings::CrossReferenceController, typename FieldOf<Dependency>::Type> ||
+    std::is_base_of_v<RowList, typename FieldOf<Dependency>::Type>;
+
+} // namespace internal
 
 /// A setting on a form. Where an operation takes dependencies, these are the fields of other
 /// settings (or handles), whose changes make the setting look at itself again; its own changes
@@ -54,8 +76,7 @@ public:
         internal::Description& description = this->description();
         if (purpose() == internal::Purpose::Save) {
             description.isInitial = *field_ == value;
-        } else if (purpose() == internal::Purpose::Load ||
-                   purpose() == internal::Purpose::MakeDefault) {
+        } else if (purpose() == internal::Purpose::Load || purpose() == internal::Purpose::MakeDefault) {
             *field_ = std::move(value);
         }
         description.hasInitialValue = true;
@@ -380,13 +401,13 @@ private:
 
     template <class T>
     void addIfItChangesByItself(const T& dependency) const {
-        if constexpr (kChangesByItself<T>) {
+        if constexpr (internal::kChangesByItself<T>) {
             add(description().behaviour->memberDependencies, dependency);
         }
     }
     template <class T>
     void addIfItIsSet(const T& dependency) const {
-        if constexpr (!kChangesByItself<T>) {
+        if constexpr (!internal::kChangesByItself<T>) {
             add(description().behaviour->memberDependencies, dependency);
         }
     }

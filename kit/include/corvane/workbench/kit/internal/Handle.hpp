@@ -1,7 +1,5 @@
 #pragma once
 
-#include <corvane/workbench/bindings/CrossReferenceController.hpp>
-#include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyId.hpp>
 #include <corvane/workbench/kit/internal/Description.hpp>
 #include <corvane/workbench/kit/internal/fieldId.hpp>
@@ -49,11 +47,6 @@ protected:
             return fieldId(*description_->owner, &dependency);
         }
     }
-    /// Whether a field is changed by others than its editor: references and lists of rows are.
-    template <class T>
-    static constexpr bool kChangesByItself =
-        std::is_base_of_v<bindings::CrossReferenceController, T> ||
-        std::is_base_of_v<bindings::PropertyContainer, T>;
 
 private:
     [[noreturn]] void throwForAnother() const;
