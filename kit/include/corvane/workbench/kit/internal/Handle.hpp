@@ -28,6 +28,14 @@ protected:
         return *description_;
     }
     [[nodiscard]] Purpose purpose() const noexcept { return description_->purpose; }
+    /// Whether the form is filled in for the purpose. While a description is checked, throws as
+    /// description() does.
+    [[nodiscard]] bool isFor(Purpose purpose) const {
+        if (description_->purpose == Purpose::Check) {
+            static_cast<void>(description());
+        }
+        return description_->purpose == purpose;
+    }
 
     /// Whether the form wants to know what depends on what.
     [[nodiscard]] bool wantsDependencies() const noexcept {
