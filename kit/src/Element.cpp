@@ -65,7 +65,7 @@ internal::Subject Element::subject() const noexcept {
     return {.controller = const_cast<Element*>(this), .type = &kSubjectType};
 }
 
-void Element::changed(const bindings::PropertyId& property) {
+void Element::publishChange(const bindings::PropertyId& property) {
     internal::publishChange(subject(), property);
 }
 

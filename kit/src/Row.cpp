@@ -45,7 +45,7 @@ bindings::PropertyController& Row::ownerOfList() const {
     return list_->owner();
 }
 
-void Row::changed(const bindings::PropertyId& property) {
+void Row::publishChange(const bindings::PropertyId& property) {
     internal::publishChange(subject(), property);
 }
 

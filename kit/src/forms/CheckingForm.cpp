@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <stdexcept>
+#include <typeinfo>
 
 namespace corvane::workbench::kit::internal {
 
@@ -60,7 +61,7 @@ void CheckingForm::check() {
     fillIn();
     for (const auto& [name, dependency] : dependencies_) {
         if (!properties_.contains(dependency)) {
-            fail(inQuotes(name) + " depends on something that is not described as a setting");
+            fail(name + " depends on something that is not described as a setting");
         }
     }
     if (isWrittenAsValue_ && settingCount_ != 1) {
@@ -117,15 +118,30 @@ void CheckingForm::takeSetting(const Description& description) {
     if (description.subject == Description::Subject::Setting) {
         ++settingCount_;
     }
-    addDependencies(name, description);
+    addDependencies(inQuotes(name), description);
     if (description.field.kind != nullptr &&
         description.field.kind->editor() == skill::EditableProperty::Editor::Choice) {
         checkChoices(description);
     }
     if (description.rows != nullptr) {
         const std::unique_ptr<Row> row = description.rows->makeRow();
-        CheckingForm(RowList::subjectOf(*row), place_ + ", a row of " + inQuotes(name)).check();
+        if (!isBeingChecked(*row)) {
+            CheckingForm form(RowList::subjectOf(*row), place_ + ", a row of " + inQuotes(name));
+            form.enclosing_ = this;
+            form.check();
+        }
     }
+}
+
+// Rows may have rows of their own class, or of a class that they are in.
+bool CheckingForm::isBeingChecked(const Row& row) const {
+    for (const CheckingForm* form = this; form != nullptr; form = form->enclosing_) {
+        const bindings::PropertyController& owner = form->owner();
+        if (typeid(owner) == typeid(row)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void CheckingForm::takeMember(const Description& description) {
@@ -181,7 +197,7 @@ void CheckingForm::checkChoices(const Description& description) const {
     }
 }
 
-void CheckingForm::addDependencies(std::string_view name, const Description& description) {
+void CheckingForm::addDependencies(const std::string& name, const Description& description) {
     for (const auto* list :
          {&description.behaviour->valueDependencies, &description.behaviour->stateDependencies,
           &description.behaviour->visibilityDependencies,

@@ -29,10 +29,13 @@ private:
     void takeMember(const Description& description);
     void checkName(std::string_view name) const;
     void checkChoices(const Description& description) const;
-    void addDependencies(std::string_view name, const Description& description);
+    [[nodiscard]] bool isBeingChecked(const Row& row) const;
+    void addDependencies(const std::string& name, const Description& description);
     [[noreturn]] void fail(const std::string& mistake) const;
 
     std::string place_;
+    /// What has the list whose row this describes, or null.
+    const CheckingForm* enclosing_ = nullptr;
     std::set<std::string, std::less<>> names_;
     std::set<bindings::PropertyId> properties_;
     /// By kind and name.

@@ -89,7 +89,7 @@ void ConfiguringForm::take(Description& description) {
                                    description.behaviour->memberDependencies.end());
         return;
     }
-    if (!first_) {
+    if (!first_ && description.subject == Setting) {
         first_ = description.property;
     }
     if (subject().isRow() && description.subject == Setting) {

@@ -43,7 +43,7 @@ protected:
     /// Tells everybody that the skill has changed the value in a field, as if the user had set it.
     template <class T>
     void changed(const T& field) {
-        changed(internal::fieldId(*this, &field));
+        publishChange(internal::fieldId(*this, &field));
     }
 
     void configureProperties(PropertyConfigurationContext& context) override;
@@ -64,7 +64,7 @@ private:
     static const internal::Subject::Type kSubjectType;
 
     [[nodiscard]] internal::Subject subject() const noexcept;
-    void changed(const bindings::PropertyId& property);
+    void publishChange(const bindings::PropertyId& property);
 
     /// Hear of changes of references and lists that something follows from; mostly none.
     std::vector<Subscription> triggers_;

@@ -56,7 +56,7 @@ protected:
     /// Tells everybody that the skill has changed the value in a field.
     template <class T>
     void changed(const T& field) {
-        changed(internal::fieldId(*this, &field));
+        publishChange(internal::fieldId(*this, &field));
     }
 
     void configureProperties(PropertyConfigurationContext& context) override;
@@ -68,7 +68,7 @@ private:
 
     [[nodiscard]] internal::Subject subject() const noexcept;
     [[nodiscard]] bindings::PropertyController& ownerOfList() const;
-    void changed(const bindings::PropertyId& property);
+    void publishChange(const bindings::PropertyId& property);
 
     const internal::RowList* list_ = nullptr;
     /// Hear of changes of references and lists that something follows from; mostly none.

@@ -6,11 +6,31 @@
 
 #include <concepts>
 #include <cstddef>
+#include <limits>
 #include <memory>
 #include <type_traits>
 #include <vector>
 
 namespace corvane::workbench::kit {
+
+namespace internal {
+
+/// The number of a type that comes nearest to another one; whole numbers are cut off.
+template <class Number, class From>
+[[nodiscard]] Number nearest(From number) noexcept {
+    if constexpr (std::integral<Number> && std::floating_point<From>) {
+        using Limits = std::numeric_limits<Number>;
+        if (number >= static_cast<From>(Limits::max())) {
+            return Limits::max();
+        }
+        if (!(number > static_cast<From>(Limits::lowest()))) {
+            return Limits::lowest();
+        }
+    }
+    return static_cast<Number>(number);
+}
+
+} // namespace internal
 
 /// The rows of a list setting: a field of the element, described with Form::rows. A copy has copies
 /// of the rows. size() and empty() tell how many there are.
@@ -94,18 +114,19 @@ public:
     void move(std::size_t from, std::size_t to) { moveRow(from, to); }
 
     /// The number that continues the numbers in this field of the rows at an index, which is at
-    /// most the number of rows: one step after the row before, or before the first row.
+    /// most the number of rows: one step after the row before, or before the first row. What the
+    /// field cannot hold becomes the nearest number that it can.
     template <class Number, class Step>
     [[nodiscard]] Number next(Number R::* field, std::size_t index, Step step) const {
-        using Listed = std::conditional_t<std::same_as<Number, int>, int, double>;
-        using Stepped = std::conditional_t<std::integral<Step>, int, double>;
-        std::vector<Listed> values;
+        using Calculated =
+            std::conditional_t<std::same_as<Number, int> && std::same_as<Step, int>, int, double>;
+        std::vector<Calculated> values;
         for (const R& row : *this) {
             // The new row itself is not in the list yet.
-            values.push_back(static_cast<Listed>(row.*field));
+            values.push_back(static_cast<Calculated>(row.*field));
         }
-        return static_cast<Number>(
-            bindings::functional::Offset<Stepped>(static_cast<Stepped>(step))(values, index));
+        const bindings::functional::Offset<Calculated> offset(static_cast<Calculated>(step));
+        return internal::nearest<Number>(offset(values, index));
     }
 
 private:

@@ -33,6 +33,28 @@ class Object;
 namespace corvane::workbench::kit {
 
 class Form;
+template <class T>
+class Setting;
+
+namespace internal {
+
+/// The type of a field, given by itself or by a handle.
+template <class T>
+struct FieldOf {
+    using Type = T;
+};
+template <class T>
+struct FieldOf<Setting<T>> {
+    using Type = T;
+};
+
+/// Whether a field is changed by others than its editor: references and lists of rows are.
+template <class Dependency>
+inline constexpr bool kChangesByItself =
+    std::is_base_of_v<bindings::CrossReferenceController, typename FieldOf<Dependency>::Type> ||
+    std::is_base_of_v<RowList, typename FieldOf<Dependency>::Type>;
+
+} // namespace internal
 
 /// A setting on a form. Where an operation takes dependencies, these are the fields of other
 /// settings (or handles), whose changes make the setting look at itself again; its own changes
@@ -52,10 +74,9 @@ public:
         requires(!kIsReference && !kIsRows)
     {
         internal::Description& description = this->description();
-        if (purpose() == internal::Purpose::Save) {
+        if (isFor(internal::Purpose::Save)) {
             description.isInitial = *field_ == value;
-        } else if (purpose() == internal::Purpose::Load ||
-                   purpose() == internal::Purpose::MakeDefault) {
+        } else if (isFor(internal::Purpose::Load) || isFor(internal::Purpose::MakeDefault)) {
             *field_ = std::move(value);
         }
         description.hasInitialValue = true;
@@ -68,7 +89,7 @@ public:
     Setting generated(Function function) const
         requires(!kIsReference && !kIsRows)
     {
-        if (purpose() == internal::Purpose::MakeDefault) {
+        if (isFor(internal::Purpose::MakeDefault)) {
             *field_ = function();
         }
         return *this;
@@ -106,7 +127,7 @@ public:
     template <class Condition, class... Dependencies>
         requires std::predicate<Condition&> || std::predicate<Condition&, const T&>
     Setting rule(Condition condition, Text message, const Dependencies&... dependencies) const {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             if constexpr (std::predicate<Condition&>) {
                 description().behaviour->rules.emplace_back(
                     internal::ConditionRule<Condition>{std::move(condition), message.data()});
@@ -121,7 +142,7 @@ public:
     template <class Function, class... Dependencies>
         requires std::same_as<std::invoke_result_t<Function&>, State>
     Setting rule(Function function, const Dependencies&... dependencies) const {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             description().behaviour->rules.emplace_back(std::move(function));
         }
         return dependingOn(dependencies...);
@@ -130,7 +151,7 @@ public:
     Setting range(T lowest, T highest, Text message = {}) const
         requires kIsNumber
     {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             description().behaviour->rules.emplace_back(
                 internal::rangeRule(*field_, lowest, highest, message.data()));
         }
@@ -138,7 +159,7 @@ public:
     }
     /// The value is not empty: a text, a time stamp, a UUID, a reference, a list.
     Setting required(Text message = "Enter a value.") const {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             internal::Description& description = this->description();
             description.behaviour->rules.insert(
                 description.behaviour->rules.begin(),
@@ -155,9 +176,9 @@ public:
     /// The user sees the setting while the condition holds. What is invisible is never wrong.
     template <std::predicate Condition, class... Dependencies>
     Setting visibleIf(Condition condition, const Dependencies&... dependencies) const {
-        if (purpose() == internal::Purpose::Save) {
+        if (isFor(internal::Purpose::Save)) {
             description().isVisible = condition();
-        } else if (purpose() == internal::Purpose::Configure) {
+        } else if (isFor(internal::Purpose::Configure)) {
             description().behaviour->visibility = std::move(condition);
         }
         if (wantsDependencies()) {
@@ -192,7 +213,7 @@ public:
     /// A property of the enclosing container that is published whenever this setting is. A row's
     /// settings publish its list without being told.
     Setting raises(const bindings::PropertyId& property) const {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             description().behaviour->raisedProperties.push_back(property);
         }
         return *this;
@@ -202,8 +223,7 @@ public:
     /// when their subscribers have heard of it.
     template <std::invocable Action>
     Setting then(Action action) const {
-        if (purpose() ==
-            (kChangesByItself<T> ? internal::Purpose::Configure : internal::Purpose::Change)) {
+        if (isFor(kChangesByItself<T> ? internal::Purpose::Configure : internal::Purpose::Change)) {
             description().behaviour->actions.emplace_back(std::move(action));
         }
         return *this;
@@ -242,7 +262,7 @@ public:
     Setting to(const skill::Element::Class& elementClass, Text message = {}) const
         requires kIsReference
     {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             description().behaviour->rules.emplace_back(
                 internal::classRule(*field_, elementClass, message.data()));
         }
@@ -252,7 +272,7 @@ public:
     Setting to(utils::core::Flags<model::ElementCategory> categories, Text message = {}) const
         requires kIsReference
     {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             description().behaviour->rules.emplace_back(
                 internal::categoryRule(*field_, categories, message.data()));
         }
@@ -264,7 +284,7 @@ public:
     Setting proposes(Number RowType::* field, Step step) const
         requires(kIsRows && std::same_as<typename T::RowType, RowType>)
     {
-        if (purpose() == internal::Purpose::Propose) {
+        if (isFor(internal::Purpose::Propose)) {
             description().behaviour->proposal = [field, step, rows = field_](Row& row,
                                                                              std::size_t index) {
                 static_cast<RowType&>(row).*field =
@@ -278,7 +298,7 @@ public:
     Setting proposes(Function prepare) const
         requires(kIsRows && std::invocable<Function&, typename T::RowType&, std::size_t>)
     {
-        if (purpose() == internal::Purpose::Propose) {
+        if (isFor(internal::Purpose::Propose)) {
             description().behaviour->proposal = [prepare = std::move(prepare)](Row& row,
                                                                                std::size_t index) {
                 prepare(static_cast<typename T::RowType&>(row), index);
@@ -319,7 +339,7 @@ public:
     /// The user sees it while the condition holds.
     template <std::predicate Condition, class... Dependencies>
     Derived visibleIf(Condition condition, const Dependencies&... dependencies) const {
-        if (purpose() == internal::Purpose::Configure) {
+        if (isFor(internal::Purpose::Configure)) {
             description().behaviour->visibility = std::move(condition);
         }
         if (wantsDependencies()) {
@@ -381,13 +401,13 @@ private:
 
     template <class T>
     void addIfItChangesByItself(const T& dependency) const {
-        if constexpr (kChangesByItself<T>) {
+        if constexpr (internal::kChangesByItself<T>) {
             add(description().behaviour->memberDependencies, dependency);
         }
     }
     template <class T>
     void addIfItIsSet(const T& dependency) const {
-        if constexpr (!kChangesByItself<T>) {
+        if constexpr (!internal::kChangesByItself<T>) {
             add(description().behaviour->memberDependencies, dependency);
         }
     }

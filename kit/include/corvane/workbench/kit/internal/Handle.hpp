@@ -1,7 +1,5 @@
 #pragma once
 
-#include <corvane/workbench/bindings/CrossReferenceController.hpp>
-#include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyId.hpp>
 #include <corvane/workbench/kit/internal/Description.hpp>
 #include <corvane/workbench/kit/internal/fieldId.hpp>
@@ -30,6 +28,14 @@ protected:
         return *description_;
     }
     [[nodiscard]] Purpose purpose() const noexcept { return description_->purpose; }
+    /// Whether the form is filled in for the purpose. While a description is checked, throws as
+    /// description() does.
+    [[nodiscard]] bool isFor(Purpose purpose) const {
+        if (description_->purpose == Purpose::Check) {
+            static_cast<void>(description());
+        }
+        return description_->purpose == purpose;
+    }
 
     /// Whether the form wants to know what depends on what.
     [[nodiscard]] bool wantsDependencies() const noexcept {
@@ -49,11 +55,6 @@ protected:
             return fieldId(*description_->owner, &dependency);
         }
     }
-    /// Whether a field is changed by others than its editor: references and lists of rows are.
-    template <class T>
-    static constexpr bool kChangesByItself =
-        std::is_base_of_v<bindings::CrossReferenceController, T> ||
-        std::is_base_of_v<bindings::PropertyContainer, T>;
 
 private:
     [[noreturn]] void throwForAnother() const;
