@@ -1,6 +1,5 @@
 #pragma once
 
-#include <corvane/workbench/bindings/PropertyController.hpp>
 #include <corvane/workbench/host/Observer.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 
@@ -9,10 +8,9 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace corvane::skillbench {
-
-struct PropertyPlace;
 
 /// Does what a user interface with everything open would do: subscribes to all properties and error
 /// counts of all elements, observes the workbench, and prints each notification as it comes, on a
@@ -27,8 +25,8 @@ public:
     Notifications& operator=(const Notifications&) = delete;
     ~Notifications() override;
 
-    /// Subscribes anew to what there is now. To be called after an edit, which may have brought
-    /// rows of lists or elements.
+    /// Subscribes anew to the elements that there was a notification of. To be called after an
+    /// edit, which may have brought rows of lists or elements.
     void refresh();
 
 private:
@@ -47,11 +45,8 @@ private:
     void referenceStateChanged(
         const workbench::model::internal::BasicElementReference& reference) override;
 
-    [[nodiscard]] workbench::bindings::PropertyController::Subscription
-    subscribe(const workbench::host::ElementNode& element, const PropertyPlace& place) const;
-    void errorCountChanged(const workbench::host::ElementNode& element) const;
     void watchBelow(workbench::host::ElementNode& element);
-    void forgetBelow(const workbench::host::ElementNode& element);
+    void forgetBelow(workbench::host::ElementNode& element);
     /// Begins a line: what happened, in a column, and where.
     std::ostream& line(std::string_view what, std::string_view where) const;
     [[nodiscard]] std::string
@@ -59,7 +54,8 @@ private:
 
     workbench::host::Workbench& workbench_;
     std::ostream& out_;
-    std::unordered_map<const workbench::host::ElementNode*, std::unique_ptr<Watch>> watches_;
+    std::unordered_map<workbench::host::ElementNode*, std::unique_ptr<Watch>> watches_;
+    std::unordered_set<workbench::host::ElementNode*> changed_;
 };
 
 } // namespace corvane::skillbench
