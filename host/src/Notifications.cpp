@@ -3,6 +3,7 @@
 #include <corvane/workbench/bindings/Action.hpp>
 #include <corvane/workbench/bindings/PropertyContainer.hpp>
 #include <corvane/workbench/bindings/PropertyController.hpp>
+#include <corvane/workbench/host/CurrentOperation.hpp>
 #include <corvane/workbench/host/displayText.hpp>
 #include <corvane/workbench/host/editableProperties.hpp>
 #include <corvane/workbench/host/referenceProperty.hpp>
@@ -42,56 +43,140 @@ std::string actionText(bindings::Action action, std::size_t index) {
 
 } // namespace
 
-/// The subscriptions to one element. Those to the rows of its lists may have lost their rows
-/// without notice: a subscription must not be ended then, it ended with its row.
+/// The subscriptions to one element. What a property is called is not kept but found again when it
+/// is needed, because there are many properties and few notifications.
+///
+/// Subscriptions to the rows of lists may have lost their rows without notice: such a subscription
+/// must not be ended, it ended with its row.
 class Notifications::Watch {
 public:
-    Watch(Notifications& notifications, ElementNode& element) : element_(element) {
+    Watch(Notifications& notifications, ElementNode& element)
+        : notifications_(notifications), element_(element) {
         const auto add = [&](const PropertyPlace& place) {
-            if (!place.property.property) {
-                return;
-            }
-            auto subscription = notifications.subscribe(element, place);
-            if (place.row == nullptr) {
-                own_.push_back(std::move(subscription));
-            } else {
-                ofRows_.emplace_back(place.row, std::make_unique<PropertyController::Subscription>(
-                                                    std::move(subscription)));
+            if (place.property.property) {
+                subscribe(place);
             }
         };
         forEachProperty(element, add);
-        errorCount_ = element.properties().subscribeToPropertyErrorCount(
-            [&notifications, &element] { notifications.errorCountChanged(element); });
+        watched_.shrink_to_fit();
+        errorCount_ = element.properties().subscribeToPropertyErrorCount([this] {
+            line("errors", keyText(element_.primaryKey()))
+                << ": " << element_.properties().propertyErrorCount() << '\n';
+        });
     }
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 
     ~Watch() {
         std::unordered_set<const skill::SubElement*> rows;
-        if (!ofRows_.empty()) {
+        if (hasRows_) {
             const auto note = [&](const PropertyPlace& place) { rows.insert(place.row); };
             forEachProperty(element_, note);
         }
-        for (auto& [row, subscription] : ofRows_) {
-            if (!rows.contains(row)) {
+        for (Watched& watched : watched_) {
+            if (watched.row && !rows.contains(watched.row->row)) {
                 // Frees the memory without running the destructor.
-                ::operator delete(subscription.release());
+                ::operator delete(watched.row->subscription.release());
             }
         }
     }
 
 private:
-    const ElementNode& element_;
-    std::vector<PropertyController::Subscription> own_;
-    std::vector<
-        std::pair<const skill::SubElement*, std::unique_ptr<PropertyController::Subscription>>>
-        ofRows_;
+    /// What only properties in rows need.
+    struct Row {
+        skill::SubElement* row;
+        std::string path;
+        std::unique_ptr<PropertyController::Subscription> subscription;
+    };
+    struct Watched {
+        bindings::PropertyHandle property;
+        std::unique_ptr<Row> row;
+        PropertyController::Subscription subscription;
+    };
+
+    void subscribe(const PropertyPlace& place) {
+        // Small enough to need no memory of their own.
+        const auto index = watched_.size();
+        PropertyController::SubscriptionCallbacks callbacks;
+        callbacks.value = [this, index](bindings::Action action, std::size_t row) {
+            const auto print = [&](const PropertyPlace& changed) {
+                const std::string value = valueText(changed);
+                line("value", keyOf(changed)) << ": " << value << actionText(action, row) << '\n';
+            };
+            describe(watched_[index], print);
+        };
+        callbacks.state = [this, index] {
+            const auto print = [&](const PropertyPlace& changed) {
+                const auto& state = stateOf(changed);
+                line("state", keyOf(changed))
+                    << ": " << (state ? "ok" : "error: " + onOneLine(state.error())) << '\n';
+            };
+            describe(watched_[index], print);
+        };
+        callbacks.visibility = [this, index] {
+            const auto print = [&](const PropertyPlace& changed) {
+                line("visibility", keyOf(changed))
+                    << ": " << (isVisible(changed) ? "visible" : "hidden") << '\n';
+            };
+            describe(watched_[index], print);
+        };
+        Watched watched{place.property.property, nullptr, {}};
+        auto subscription = watched.property.subscribe(std::move(callbacks));
+        if (place.row == nullptr) {
+            watched.subscription = std::move(subscription);
+        } else {
+            watched.row = std::make_unique<Row>(
+                place.row, place.path,
+                std::make_unique<PropertyController::Subscription>(std::move(subscription)));
+            hasRows_ = true;
+        }
+        watched_.push_back(std::move(watched));
+    }
+
+    /// Calls back with the property as its element or row describes it now.
+    template <class Callback>
+    void describe(const Watched& watched, const Callback& callback) const {
+        const auto look = [&](const skill::EditableProperty& property) {
+            const bool isIt = property.property &&
+                              &property.property.controller() == &watched.property.controller() &&
+                              property.property.property() == watched.property.property();
+            if (isIt) {
+                callback(PropertyPlace{element_, property,
+                                       watched.row ? watched.row->path : property.name,
+                                       watched.row ? watched.row->row : nullptr});
+            }
+        };
+        callSkill(
+            CurrentOperation::Kind::ListProperties,
+            [&] {
+                if (watched.row) {
+                    watched.row->row->forEachEditableProperty(look);
+                } else {
+                    element_.skillElement()->forEachEditableProperty(look);
+                }
+            },
+            element_);
+    }
+
+    std::string keyOf(const PropertyPlace& place) const {
+        return element_.primaryKey() + "." + place.path;
+    }
+
+    std::ostream& line(std::string_view what, std::string_view where) const {
+        notifications_.changed_.insert(&element_);
+        return notifications_.line(what, where);
+    }
+
+    Notifications& notifications_;
+    ElementNode& element_;
+    std::vector<Watched> watched_;
+    bool hasRows_ = false;
     bindings::PropertyContainer::ErrorCountSubscription errorCount_;
 };
 
 Notifications::Notifications(Workbench& workbench, std::ostream& out)
     : workbench_(workbench), out_(out) {
-    refresh();
+    watchBelow(workbench_.root());
     workbench_.addObserver(*this);
 }
 
@@ -100,8 +185,11 @@ Notifications::~Notifications() {
 }
 
 void Notifications::refresh() {
-    watches_.clear();
-    watchBelow(workbench_.root());
+    for (ElementNode* element : std::exchange(changed_, {})) {
+        std::unique_ptr<Watch>& watch = watches_[element];
+        watch.reset();
+        watch = std::make_unique<Watch>(*this, *element);
+    }
 }
 
 void Notifications::watchBelow(ElementNode& element) {
@@ -111,49 +199,26 @@ void Notifications::watchBelow(ElementNode& element) {
     }
 }
 
-void Notifications::forgetBelow(const ElementNode& element) {
+void Notifications::forgetBelow(ElementNode& element) {
     watches_.erase(&element);
+    changed_.erase(&element);
     for (std::size_t index = 0; index < element.childCount(); ++index) {
         forgetBelow(element.child(index));
     }
 }
 
-PropertyController::Subscription Notifications::subscribe(const ElementNode& element,
-                                                          const PropertyPlace& place) const {
-    // The description is copied: it is as good as the element or the row, which outlives the call.
-    const auto where = [&element, path = place.path] { return element.primaryKey() + "." + path; };
-    PropertyController::SubscriptionCallbacks callbacks;
-    callbacks.value = [this, where, &element, path = place.path, property = place.property,
-                       row = place.row](bindings::Action action, std::size_t index) {
-        const std::string value = valueText({element, property, path, row});
-        line("value", where()) << ": " << value << actionText(action, index) << '\n';
-    };
-    callbacks.state = [this, where, handle = place.property.property] {
-        const auto& state = handle.state();
-        line("state", where()) << ": " << (state ? "ok" : "error: " + onOneLine(state.error()))
-                               << '\n';
-    };
-    callbacks.visibility = [this, where, handle = place.property.property] {
-        line("visibility", where()) << ": " << (handle.visible() ? "visible" : "hidden") << '\n';
-    };
-    return place.property.property.subscribe(std::move(callbacks));
-}
-
-void Notifications::errorCountChanged(const ElementNode& element) const {
-    line("errors", keyText(element.primaryKey()))
-        << ": " << element.properties().propertyErrorCount() << '\n';
-}
-
 void Notifications::configurationUnloading() {
     watches_.clear();
+    changed_.clear();
 }
 
 void Notifications::configurationLoaded() {
-    refresh();
+    watchBelow(workbench_.root());
 }
 
 void Notifications::elementAdded(const ElementNode& element) {
     line("added", element.primaryKey()) << '\n';
+    changed_.insert(workbench_.findElement(element.uuid()));
 }
 
 void Notifications::elementRenamed(const ElementNode& element, std::string_view oldKey) {
@@ -166,7 +231,7 @@ void Notifications::elementMoved(const ElementNode& element, std::string_view ol
 
 void Notifications::elementRemoving(const ElementNode& element) {
     line("removing", element.primaryKey()) << '\n';
-    forgetBelow(element);
+    forgetBelow(*workbench_.findElement(element.uuid()));
 }
 
 void Notifications::elementRemoved(std::string_view key) {
@@ -178,17 +243,25 @@ void Notifications::elementMembersChanged(const ElementNode& element) {
 }
 
 void Notifications::referenceKeyChanged(const BasicElementReference& reference) {
-    line("new key", placeOf(reference, workbench_))
-        << ": " << onOneLine(reference.data().primaryKey()) << '\n';
+    line("new key", placeOf(reference)) << ": " << onOneLine(reference.data().primaryKey()) << '\n';
 }
 
 void Notifications::referenceStateChanged(const BasicElementReference& reference) {
-    line("resolution", placeOf(reference, workbench_))
+    line("resolution", placeOf(reference))
         << ": " << onOneLine(reference.data().primaryKey()) << '\n';
 }
 
 std::ostream& Notifications::line(std::string_view what, std::string_view where) const {
     return out_ << "  " << what << std::string(kPlaceColumn - what.size(), ' ') << onOneLine(where);
+}
+
+std::string Notifications::placeOf(const BasicElementReference& reference) const {
+    const ElementNode* owner = workbench_.ownerOf(reference);
+    if (owner == nullptr) {
+        return "(no element)";
+    }
+    const std::string path = propertyPath(reference, *owner);
+    return path.empty() ? owner->primaryKey() : owner->primaryKey() + "." + path;
 }
 
 } // namespace corvane::workbench::host

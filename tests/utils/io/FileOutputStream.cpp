@@ -129,6 +129,19 @@ TEST(FileOutputStream, RefusesToReplaceAReadOnlyFile) {
     std::filesystem::permissions(path, perms::owner_write, std::filesystem::perm_options::add);
 }
 
+TEST(FileOutputStream, ReplacesAFileInTheCurrentFolder) {
+    const TemporaryFolder folder;
+    const auto path = folder.write("file.json", "old content");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    FileOutputStream stream("file.json");
+    stream.write("new");
+    stream.close();
+    std::filesystem::current_path(before);
+    EXPECT_EQ(TemporaryFolder::read(path), "new");
+    EXPECT_EQ(folder.count(), 1U);
+}
+
 TEST(FileOutputStream, WritesIntoTheDeviceThatTakesEverything) {
     const TemporaryFolder folder;
 #ifdef _WIN32

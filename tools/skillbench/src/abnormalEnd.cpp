@@ -137,7 +137,8 @@ std::string_view nameOf(DWORD exception) noexcept {
 LONG WINAPI onException(EXCEPTION_POINTERS* exception) {
     report(nameOf(exception->ExceptionRecord->ExceptionCode));
     utils::io::removeTemporaryFiles();
-    return EXCEPTION_CONTINUE_SEARCH;
+    // Without a window that somebody would have to close.
+    return EXCEPTION_EXECUTE_HANDLER;
 }
 
 [[noreturn]] void end(UINT exitCode) noexcept {

@@ -52,7 +52,10 @@ std::wstring finalPath(HANDLE file) {
 
 } // namespace
 
-OutputTarget findOutputTarget(const std::filesystem::path& path) {
+OutputTarget findOutputTarget(const std::filesystem::path& given) {
+    // Not every system replaces a file by its relative path.
+    const bool isFull = given.is_absolute() || given.native().starts_with(LR"(\\)");
+    const std::filesystem::path path = isFull ? given : std::filesystem::absolute(given);
     constexpr DWORD kSharedByAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     // To look at a pipe would already count as a client.
     if (path.native().starts_with(LR"(\\.\)")) {

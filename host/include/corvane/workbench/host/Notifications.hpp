@@ -1,6 +1,5 @@
 #pragma once
 
-#include <corvane/workbench/bindings/PropertyController.hpp>
 #include <corvane/workbench/host/Observer.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
 
@@ -8,11 +7,11 @@
 #include <iosfwd>
 #include <memory>
 #include <string_view>
+#include <string>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace corvane::workbench::host {
-
-struct PropertyPlace;
 
 /// Does what a user interface with everything open would do: subscribes to all properties and error
 /// counts of all elements, observes the workbench, and prints each notification as it comes, on a
@@ -30,8 +29,8 @@ public:
     Notifications& operator=(const Notifications&) = delete;
     ~Notifications() override;
 
-    /// Subscribes anew to what there is now. To be called after an edit, which may have brought
-    /// rows of lists or elements.
+    /// Subscribes anew to the elements that there was a notification of. To be called after an
+    /// edit, which may have brought rows of lists or elements.
     void refresh();
 
 private:
@@ -48,17 +47,17 @@ private:
     void referenceKeyChanged(const model::internal::BasicElementReference& reference) override;
     void referenceStateChanged(const model::internal::BasicElementReference& reference) override;
 
-    [[nodiscard]] bindings::PropertyController::Subscription
-    subscribe(const ElementNode& element, const PropertyPlace& place) const;
-    void errorCountChanged(const ElementNode& element) const;
     void watchBelow(ElementNode& element);
-    void forgetBelow(const ElementNode& element);
+    void forgetBelow(ElementNode& element);
     /// Begins a line: what happened, in a column, and where.
     std::ostream& line(std::string_view what, std::string_view where) const;
+    [[nodiscard]] std::string
+    placeOf(const model::internal::BasicElementReference& reference) const;
 
     Workbench& workbench_;
     std::ostream& out_;
-    std::unordered_map<const ElementNode*, std::unique_ptr<Watch>> watches_;
+    std::unordered_map<ElementNode*, std::unique_ptr<Watch>> watches_;
+    std::unordered_set<ElementNode*> changed_;
 };
 
 } // namespace corvane::workbench::host
