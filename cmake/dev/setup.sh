@@ -28,7 +28,9 @@ needs_of() {
         bench)
             echo "$base libbenchmark-dev:benchmark/benchmark.h nlohmann-json3-dev:nlohmann/json.hpp
                 rapidjson-dev:rapidjson/document.h libboost-json-dev:@libboost_json.so
-                libjsoncons-dev:jsoncons/json.hpp libsimdjson-dev:simdjson.h libyyjson-dev:yyjson.h"
+                libjsoncons-dev:jsoncons/json.hpp libsimdjson-dev:simdjson.h libyyjson-dev:yyjson.h
+                pkgconf:pkg-config libsigc++-3.0-dev:sigc++-3.0/sigc++/sigc++.h
+                libboost-dev:boost/signals2.hpp"
             ;;
         coverage) echo "$base $tests gcovr:gcovr" ;;
         lint) echo "clang-format:clang-format shellcheck:shellcheck" ;;
