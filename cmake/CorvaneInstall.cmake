@@ -15,7 +15,7 @@ function(corvane_install_package package)
     configure_package_config_file("${arg_CONFIG}" "${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake"
         INSTALL_DESTINATION "${folder}")
     write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake"
-        COMPATIBILITY SameMajorVersion)
+        COMPATIBILITY SameMinorVersion)
     install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake"
                   "${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake"
             DESTINATION "${folder}")

@@ -33,6 +33,7 @@ needs_of() {
         lint) echo "clang-format:clang-format shellcheck:shellcheck" ;;
         docs) echo "doxygen:doxygen graphviz:dot" ;;
         package) echo "$base" ;;
+        abi) echo "$base abigail-tools:abidiff xz-utils:xz" ;;
     esac
 }
 
