@@ -60,6 +60,12 @@ run_lint() {
     shellcheck -x dev cmake/dev/*.sh .ci/run
 }
 
+# Static analysis of the sources as the release build compiles them; what was clean and is unchanged is skipped.
+run_tidy() {
+    configure release
+    python3 -B cmake/dev/tidy.py build/release "$cache/ccache/tidy" "$@"
+}
+
 # The release build for Linux is there for its list of tests; it is built already when `test` ran.
 run_windows() {
     export WINEPREFIX=$checkout/build/windows/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=

@@ -33,6 +33,7 @@ needs_of() {
         lint) echo "clang-format:clang-format shellcheck:shellcheck" ;;
         docs) echo "doxygen:doxygen graphviz:dot" ;;
         package) echo "$base" ;;
+        tidy) echo "$base $tests clang:clang++ clang-tidy:clang-tidy python3:python3" ;;
         abi) echo "$base abigail-tools:abidiff xz-utils:xz" ;;
     esac
 }
