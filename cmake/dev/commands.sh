@@ -66,6 +66,10 @@ run_tidy() {
     python3 -B cmake/dev/tidy.py build/release "$cache/ccache/tidy" "$@"
 }
 
+run_mutate() {
+    CCACHE_DIR=${CCACHE_DIR:-$cache/ccache} python3 -B cmake/dev/mutate/mutate.py "$@"
+}
+
 # The release build for Linux is there for its list of tests; it is built already when `test` ran.
 run_windows() {
     export WINEPREFIX=$checkout/build/windows/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=

@@ -34,6 +34,7 @@ needs_of() {
         docs) echo "doxygen:doxygen graphviz:dot" ;;
         package) echo "$base" ;;
         tidy) echo "$base $tests clang:clang++ clang-tidy:clang-tidy python3:python3" ;;
+        mutate) echo "$base $tests python3:python3" ;;
         abi) echo "$base abigail-tools:abidiff xz-utils:xz" ;;
     esac
 }
