@@ -118,6 +118,8 @@ run_fuzz() {
 }
 
 run_bench_build() { build bench >&2; }
+run_bench_all() { python3 -B cmake/dev/bench/all.py build/bench/bin "$@"; }
+run_figures() { python3 -B cmake/dev/bench/page.py "${1:?the file that bench --json has written}" docs/performance.md; }
 
 run_coverage() {
     build coverage

@@ -24,8 +24,9 @@ needs_of() {
             ;;
         clang) echo "$base $tests clang:clang++" ;;
         fuzz) echo "$base $tests clang:clang++ libclang-rt-dev:@libclang_rt.fuzzer" ;;
+        figures) echo "python3:python3" ;;
         bench)
-            echo "$base libbenchmark-dev:benchmark/benchmark.h nlohmann-json3-dev:nlohmann/json.hpp
+            echo "$base python3:python3 libbenchmark-dev:benchmark/benchmark.h nlohmann-json3-dev:nlohmann/json.hpp
                 rapidjson-dev:rapidjson/document.h libboost-json-dev:@libboost_json.so
                 libjsoncons-dev:jsoncons/json.hpp libsimdjson-dev:simdjson.h libyyjson-dev:yyjson.h"
             ;;
