@@ -60,6 +60,16 @@ run_lint() {
     shellcheck -x dev cmake/dev/*.sh .ci/run
 }
 
+# Static analysis of the sources as the release build compiles them; what was clean and is unchanged is skipped.
+run_tidy() {
+    configure release
+    python3 -B cmake/dev/tidy.py build/release "$cache/ccache/tidy" "$@"
+}
+
+run_mutate() {
+    CCACHE_DIR=${CCACHE_DIR:-$cache/ccache} python3 -B cmake/dev/mutate/mutate.py "$@"
+}
+
 # The release build for Linux is there for its list of tests; it is built already when `test` ran.
 run_windows() {
     export WINEPREFIX=$checkout/build/windows/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
@@ -108,6 +118,8 @@ run_fuzz() {
 }
 
 run_bench_build() { build bench >&2; }
+run_bench_all() { python3 -B cmake/dev/bench/all.py build/bench/bin "$@"; }
+run_figures() { python3 -B cmake/dev/bench/page.py "${1:?the file that bench --json has written}" docs/performance.md; }
 
 run_coverage() {
     build coverage

@@ -25,8 +25,9 @@ needs_of() {
             ;;
         clang) echo "$base $tests clang:clang++" ;;
         fuzz) echo "$base $tests clang:clang++ libclang-rt-dev:@libclang_rt.fuzzer" ;;
+        figures) echo "python3:python3" ;;
         bench)
-            echo "$base libbenchmark-dev:benchmark/benchmark.h nlohmann-json3-dev:nlohmann/json.hpp
+            echo "$base python3:python3 libbenchmark-dev:benchmark/benchmark.h nlohmann-json3-dev:nlohmann/json.hpp
                 rapidjson-dev:rapidjson/document.h libboost-json-dev:@libboost_json.so
                 libjsoncons-dev:jsoncons/json.hpp libsimdjson-dev:simdjson.h libyyjson-dev:yyjson.h
                 pkgconf:pkg-config libsigc++-3.0-dev:sigc++-3.0/sigc++/sigc++.h
@@ -40,6 +41,9 @@ needs_of() {
                 g++-mingw-w64-x86-64-posix:x86_64-w64-mingw32-g++-posix wine64:/usr/lib/wine/wine64
                 wine:wine googletest:/usr/src/googletest/CMakeLists.txt"
             ;;
+        tidy) echo "$base $tests clang:clang++ clang-tidy:clang-tidy python3:python3" ;;
+        mutate) echo "$base $tests python3:python3" ;;
+        abi) echo "$base abigail-tools:abidiff xz-utils:xz" ;;
     esac
 }
 

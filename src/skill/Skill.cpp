@@ -11,7 +11,7 @@ Skill::Skill() = default;
 Skill::~Skill() = default;
 
 Skill::Class::Class() {
-    _allSkills.get().push_front(*this);
+    _allSkills.get().emplace_front(*this);
 }
 Skill::Class::~Class() = default;
 
