@@ -8,7 +8,8 @@ include(GNUInstallDirs)
 #     [CONFIGURATIONS file...]      checked by tests named NAME.check.FILE
 #     [DESTINATION folder])         where it is installed, below the prefix
 #
-# Adds the target NAME: the skill's library, which a workbench opens.
+# Adds the target NAME: the skill's library, which a workbench opens. It is installed unless
+# CORVANE_INSTALL_SKILLS is OFF.
 function(corvane_add_skill name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION" "SOURCES;LIBRARIES;CONFIGURATIONS")
     if(arg_UNPARSED_ARGUMENTS)
@@ -29,7 +30,9 @@ function(corvane_add_skill name)
     if(NOT arg_DESTINATION)
         set(arg_DESTINATION "${CMAKE_INSTALL_LIBDIR}/corvane-workbench/skills")
     endif()
-    install(TARGETS ${name} LIBRARY DESTINATION "${arg_DESTINATION}")
+    if(NOT DEFINED CORVANE_INSTALL_SKILLS OR CORVANE_INSTALL_SKILLS)
+        install(TARGETS ${name} LIBRARY DESTINATION "${arg_DESTINATION}")
+    endif()
 
     if(arg_CONFIGURATIONS AND NOT TARGET Corvane::skillbench)
         message(WARNING "corvane_add_skill(${name}): there is no skillbench here, so its configurations "

@@ -12,7 +12,7 @@ run_package() {
     package_is_found "$checkout/$package_place/installed"
     package_skill_is_built find-package "" "-DCMAKE_PREFIX_PATH=$checkout/$package_place/installed"
     package_skill_is_built add-subdirectory "" "-Dcorvane_source=$checkout"
-    package_subproject_adds_nothing "$package_place/add-subdirectory"
+    package_subproject_adds_nothing build/package-add-subdirectory
     package_new_skill_is_built new "-DCMAKE_PREFIX_PATH=$checkout/$package_place/installed"
     play_guide docs/first-skill.md "$package_place/guide"
     package_works_on_windows
@@ -78,10 +78,13 @@ package_is_refused() {
 }
 
 # package_skill_is_built NAME EMULATOR OPTION...: a skill outside of the tree, built, tested, installed.
+# The folder is as deep as those of the presets, so that the compiler cache knows the library's files.
 package_skill_is_built() {
-    local place=$package_place/$1 emulator=$2
+    local place=build/package-$1 emulator=$2
+    rm -rf "$place"
     say "A skill outside of the tree: $1"
-    cmake -S tests/package/skill -B "$place" -G Ninja -DCMAKE_BUILD_TYPE=Release -Werror=dev "${@:3}" \
+    cmake -S tests/package/skill -B "$place" -G Ninja -DCMAKE_BUILD_TYPE=Release -Werror=dev \
+        -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCORVANE_WARNINGS_AS_ERRORS=ON "${@:3}" \
         >"$package_place/$1.log" 2>&1 || {
         cat "$package_place/$1.log" >&2
         return 1

@@ -127,6 +127,11 @@ TEST_F(SkillbenchEdit, SetsThePropertiesOfRows) {
                            "  errors      Werk.Öl: 1\n"));
 }
 
+TEST_F(SkillbenchEdit, TakesTheNumberOfARowInBracketsToo) {
+    EXPECT_THAT(edit({"--set", "Werk.Öl.limits[1].high=101"}).out,
+                HasSubstr("  value       Werk.Öl.limits.1.high: 101\n"));
+}
+
 TEST_F(SkillbenchEdit, RowsThatCameWithAnEditAreWatchedAfterwards) {
     EXPECT_EQ(edit({"--set", "Werk.Öl.limitCount=3", "--set", "Werk.Öl.limits.2.high=7"}),
               (Outcome{0,
