@@ -146,9 +146,10 @@ TEST_P(CodeBlocksOf, StandInFilesThatAreCompiled) {
         add(checkout / source);
     }
     if (const std::string project(GetParam().project); !project.empty()) {
+        std::istringstream in;
         std::ostringstream out;
         const std::vector<std::string> arguments{"new", project, "--in", folder.path().string()};
-        ASSERT_EQ(corvane::skillbench::run(arguments, {out, out}), 0) << out.str();
+        ASSERT_EQ(corvane::skillbench::run(arguments, {in, out, out}), 0) << out.str();
         add(folder.path() / project);
     }
     EXPECT_EQ(codeBlocks(guide).size(), GetParam().blockCount);

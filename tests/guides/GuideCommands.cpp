@@ -94,9 +94,10 @@ INSTANTIATE_TEST_SUITE_P(Of, GuideCommands, ::testing::Values("by-hand.md"), [](
 TEST_P(GuideCommands, PrintWhatTheGuideSays) {
     ASSERT_EQ(commands.size(), 3U);
     for (const Command& command : commands) {
+        std::istringstream in;
         std::ostringstream out;
         std::ostringstream err;
-        corvane::skillbench::run(command.arguments, {out, err});
+        corvane::skillbench::run(command.arguments, {in, out, err});
         EXPECT_EQ(out.str(), command.output);
         EXPECT_EQ(err.str(), "");
     }
