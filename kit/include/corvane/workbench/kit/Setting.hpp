@@ -223,7 +223,8 @@ public:
     /// when their subscribers have heard of it.
     template <std::invocable Action>
     Setting then(Action action) const {
-        if (isFor(kChangesByItself<T> ? internal::Purpose::Configure : internal::Purpose::Change)) {
+        if (isFor(internal::kChangesByItself<T> ? internal::Purpose::Configure
+                                                : internal::Purpose::Change)) {
             description().behaviour->actions.emplace_back(std::move(action));
         }
         return *this;
