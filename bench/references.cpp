@@ -4,11 +4,10 @@
 // well the caches serve, is the same.
 #include "host/TestSkill.hpp"
 #include "plant.hpp"
-
-#include <benchmark/benchmark.h>
-
 #include <corvane/utils/io/MemoryInputStream.hpp>
 #include <corvane/workbench/host/Workbench.hpp>
+
+#include <benchmark/benchmark.h>
 
 #include <cstdint>
 #include <ctime>

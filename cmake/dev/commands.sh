@@ -50,7 +50,7 @@ run_sanitize() {
 
 run_lint() {
     local files
-    mapfile -t files < <(find bench examples fuzz host include kit platform src testing tests tools -name '*.[ch]pp' | sort)
+    mapfile -t files < <(find bench examples fuzz host include kit platform src testing tests tools -name '*.[ch]pp' -not -path '*/templates/*' | sort)
     [ ${#files[@]} -gt 0 ] || fail "no sources found"
     if [ "${1:-}" = --fix ]; then
         clang-format -i "${files[@]}"

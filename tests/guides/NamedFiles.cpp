@@ -115,7 +115,8 @@ private:
         for (std::size_t index = 0; index < words.size(); ++index) {
             std::string word = words[index];
             const std::string before = index == 0 ? "" : words[index - 1];
-            if (before == "-o" || before == ">" || before == "-B" || before == "--prefix") {
+            if (before == "-o" || before == ">" || before == "-B" || before == "--json" ||
+                before == "--prefix") {
                 made_.push_back(word);
                 continue;
             }
@@ -148,8 +149,9 @@ private:
             return end == folder.end();
         };
         // A page that shows what is said of a file that does not exist calls it so.
-        return inProject_ || path.stem() == "missing" || fs::exists(CHECKOUT_FOLDER / path) ||
-               introduced_.contains(word) || std::ranges::any_of(made_, holds) || isBuilt(path);
+        return inProject_ || path == "build/tools" || path.stem() == "missing" ||
+               fs::exists(CHECKOUT_FOLDER / path) || introduced_.contains(word) ||
+               std::ranges::any_of(made_, holds) || isBuilt(path);
     }
 
     /// Whether that library or program is one of those that stand beside the test's own skill.
@@ -171,7 +173,8 @@ private:
     }
 
     fs::path folder_;
-    /// The page has made a project of its own, in which it goes on; the project is tested by itself.
+    /// The page has made a project of its own, in which it goes on; the project is tested by
+    /// itself.
     bool inProject_ = false;
     std::set<std::string> introduced_;
     std::vector<fs::path> made_;

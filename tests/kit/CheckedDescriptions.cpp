@@ -401,7 +401,7 @@ TEST(CheckedDescription, IsReportedAsAProblemWhenTheSkillIsAdded) {
     host::Workbench workbench;
     const auto added = workbench.addSkill(skill);
     ASSERT_FALSE(added);
-    EXPECT_EQ(added.error().text, "the skill \"Wrong\" cannot be used: the element class \"Test\": "
+    EXPECT_EQ(added.error().text, "the skill “Wrong” cannot be used: the element class \"Test\": "
                                   "the name \"name\" is reserved");
     EXPECT_TRUE(workbench.skills().empty());
     EXPECT_EQ(workbench.elementClasses().find("Test"), nullptr);

@@ -23,7 +23,7 @@ TEST_F(FlagSetting, IsLoadedAndSaved) {
 
 TEST_F(FlagSetting, IsRefusedWithItsPlaceWhenItIsNeitherTrueNorFalse) {
     EXPECT_THAT(bench.problemsOf(R"("on": 1)"),
-                ElementsAre("configuration.json:2:7: error: expected true or false, found a "
+                ElementsAre("configuration.json:2:7: error: expected a boolean, found a "
                             "number"));
 }
 

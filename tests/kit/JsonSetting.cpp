@@ -44,7 +44,7 @@ TEST_F(JsonSetting, IsRefusedWithItsPlaceWhenItIsNoObject) {
 
 TEST_F(JsonSetting, RefusesReservedNamesWhenAskedTo) {
     EXPECT_THAT(bench.problemsOf(R"("guarded": {"name": 1})"),
-                ElementsAre("configuration.json:2:13: error: reserved member \"name\""));
+                ElementsAre("configuration.json:2:13: error: reserved member name \"name\""));
     EXPECT_THAT(bench.setting("object").trySet(R"({"name": 1})"), IsEmpty());
     EXPECT_NE(bench.setting("guarded").trySet(R"({"name": 1})"), "");
     EXPECT_THAT(bench.setting("guarded"), HasText(""));

@@ -92,7 +92,7 @@ TEST_F(ReferenceSetting, IsAnErrorWhenItDoesNotResolve) {
 }
 
 TEST_F(ReferenceSetting, IsAnErrorWhenItIsEmptyUnlessItIsOptional) {
-    EXPECT_THAT(setting("element"), HasError("the reference is empty"));
+    EXPECT_THAT(setting("element"), HasError("empty element key"));
     EXPECT_THAT(setting("attribute"), IsOk());
 }
 

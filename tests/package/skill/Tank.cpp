@@ -13,7 +13,8 @@ class Tank final : public kit::Element {
         form.number("volume", "Volume", volume_)
             .unit("m³")
             .initially(5)
-            .rule([](double volume) { return volume > 0; }, "The volume must be greater than 0 m³.");
+            .rule([](double volume) { return volume > 0; },
+                  "The volume must be greater than 0 m³.");
     }
 
     double volume_ = 0;

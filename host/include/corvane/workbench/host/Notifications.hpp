@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <iosfwd>
 #include <memory>
-#include <string_view>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
