@@ -14,9 +14,18 @@ run_package() {
     package_skill_is_built add-subdirectory "" "-Dcorvane_source=$checkout"
     package_subproject_adds_nothing build/package-add-subdirectory
     package_new_skill_is_built new "-DCMAKE_PREFIX_PATH=$checkout/$package_place/installed"
-    play_guide docs/first-skill.md "$package_place/guide"
+    package_guide_is_followed
     package_works_on_windows
     say "The packages are in build/tools/packages and build/windows/packages; installed: $package_place/installed"
+}
+
+# The commands of the first guide, and the changes that it makes to the skill.
+package_guide_is_followed() {
+    local tank=$package_place/guide/tank
+    play_guide docs/first-skill.md "$package_place/guide"
+    patch --directory "$tank" --strip 1 <tests/guides/height.patch
+    cmake --build "$tank/build/release"
+    ctest --test-dir "$tank/build/release" --output-on-failure --no-tests=error
 }
 
 # Unpacks both archives for Linux and lets their programs run where they lie.

@@ -37,7 +37,7 @@ needs_of() {
         lint) echo "clang-format:clang-format shellcheck:shellcheck" ;;
         docs) echo "doxygen:doxygen graphviz:dot" ;;
         package)
-            echo "$base $tests pkgconf:pkg-config dpkg-dev:dpkg-shlibdeps file:file
+            echo "$base $tests pkgconf:pkg-config dpkg-dev:dpkg-shlibdeps file:file patch:patch
                 g++-mingw-w64-x86-64-posix:x86_64-w64-mingw32-g++-posix wine64:/usr/lib/wine/wine64
                 wine:wine googletest:/usr/src/googletest/CMakeLists.txt"
             ;;
