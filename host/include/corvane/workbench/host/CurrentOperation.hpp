@@ -23,6 +23,7 @@ class ElementNode;
 /// Making one costs a few instructions and copies nothing: what it refers to must outlive it.
 class CurrentOperation {
 public:
+    /// What is being done, and what the detail says.
     enum class Kind : std::uint8_t {
         /// Of a library; the detail is its path.
         OpenLibrary,
@@ -53,7 +54,9 @@ public:
     /// Where a configuration file is being read, line and column are the place in it.
     explicit CurrentOperation(Kind kind, std::string_view detail, std::uint64_t line = 0,
                               std::uint64_t column = 0) noexcept;
+    /// Of an element.
     CurrentOperation(Kind kind, const ElementNode& element, std::string_view detail = {}) noexcept;
+    /// Of the element that holds a reference.
     CurrentOperation(Kind kind, const model::internal::BasicElementReference& reference) noexcept;
     CurrentOperation(const CurrentOperation&) = delete;
     CurrentOperation& operator=(const CurrentOperation&) = delete;
@@ -63,11 +66,14 @@ public:
     /// handler of a signal that this thread has caused: nothing allocates or throws.
     [[nodiscard]] static const CurrentOperation* innermost() noexcept;
 
+    /// What is being done.
     [[nodiscard]] Kind kind() const noexcept { return kind_; }
     /// The place in the file that is being read or that the element was loaded from; 0 when
     /// unknown.
+    /// @{
     [[nodiscard]] std::uint64_t line() const noexcept;
     [[nodiscard]] std::uint64_t column() const noexcept;
+    /// @}
 
     /// Hands out, piece by piece, who does it: "the skill “pumps”".
     void writeSubject(utils::core::function_ref<void(std::string_view)> write) const noexcept;
@@ -90,11 +96,14 @@ private:
 /// A skill has thrown during an operation; the text names the skill, the operation and the reason.
 class SkillFailure final : public std::runtime_error {
 public:
+    /// Of the operation that is under way.
     SkillFailure(const CurrentOperation& operation, std::string_view reason);
 
     /// Those of the operation.
+    /// @{
     [[nodiscard]] std::uint64_t line() const noexcept { return line_; }
     [[nodiscard]] std::uint64_t column() const noexcept { return column_; }
+    /// @}
 
 private:
     std::uint64_t line_;
