@@ -125,7 +125,8 @@ run_coverage() {
     build coverage
     find build/coverage -name '*.gcda' -delete
     ctest_of coverage
-    gcovr --root . --filter src/ --filter host/ --filter platform/ --exclude-throw-branches --print-summary \
+    gcovr --root . --filter include/ --filter src/ --filter kit/ --filter host/ --filter testing/ \
+        --filter platform/ --exclude-throw-branches --print-summary \
         build/coverage --html-details build/coverage/report.html
 }
 
