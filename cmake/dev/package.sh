@@ -133,7 +133,7 @@ package_works_on_windows() {
     build windows --target skillbench corvane-skill-kit corvane-skill-testing pump-station first-skill
     cpack --config build/windows/CPackConfig.cmake >"$place.log" || fail "see $place.log"
     mkdir -p "$place"
-    cmake -E chdir "$place" cmake -E tar xf "$(find "$checkout/build/windows/packages" -name '*.zip')"
+    cmake -E chdir "$place" cmake -E tar xf "$(find "$checkout/build/windows/packages" -maxdepth 1 -name '*.zip')"
     mv "$place"/*/* "$place"
     wine wineboot --init >/dev/null 2>&1
     wine "$place/bin/skillbench.exe" check --skill "$place/lib/corvane-workbench/skills/pump-station.dll" \

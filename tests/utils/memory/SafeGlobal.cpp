@@ -5,6 +5,7 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <deque>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -28,7 +29,9 @@ struct Counted {
 /// ends, which destroys its object.
 template <class T>
 SafeGlobal<T>& anotherGlobal() {
-    return *new SafeGlobal<T>;
+    // Never destroyed, but never out of reach either.
+    static auto* const all = new std::deque<SafeGlobal<T>>;
+    return all->emplace_back();
 }
 
 constinit SafeGlobal<std::vector<int>> early;
